@@ -1,0 +1,40 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/ItemCatalogue.h"
+
+namespace tarnwick {
+
+// An option as the help shows it.
+struct OptionHelp {
+    std::string words;
+    std::string purpose;
+};
+const std::vector<OptionHelp>& optionHelp();
+
+// What was typed, taken apart. Options may stand anywhere; "--" ends them.
+struct Arguments {
+    std::vector<std::string> words;  // the command and what follows it
+    bool yes = false;
+    bool dryRun = false;
+    bool json = false;
+    bool verbose = false;
+    bool help = false;
+    bool version = false;
+    // The answer to the offer after a restore: Offer::None is "nothing"; not set, ask.
+    std::optional<Offer> then;
+    // What is wrong with the options; the other fields are then not complete.
+    std::optional<std::string> fault;
+};
+
+// Takes the arguments without the program's name.
+Arguments parseArguments(const std::vector<std::string>& typed);
+
+// "there is no NOUN "TYPED"; did you mean "WORD" ?" with the nearest of the words.
+std::string unknownWord(const std::string& noun, const std::string& typed,
+                        const std::vector<std::string>& words);
+
+}  // namespace tarnwick

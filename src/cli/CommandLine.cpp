@@ -1,0 +1,102 @@
+#include "cli/CommandLine.h"
+
+#include <algorithm>
+
+#include "cli/CommandTable.h"
+#include "cli/RunLock.h"
+
+namespace tarnwick {
+
+namespace {
+
+std::string listed(const std::vector<std::string>& words) {
+    std::string text;
+    for (const std::string& word : words)
+        text += (text.empty() ? "" : ", ") + word;
+    return text;
+}
+
+std::vector<std::string> namesOf(const std::vector<Command>& commands) {
+    std::vector<std::string> names;
+    for (const Command& command : commands)
+        names.push_back(command.name);
+    return names;
+}
+
+const Command* commandOf(const std::vector<Command>& commands, const std::string& name) {
+    const auto found =
+        std::find_if(commands.begin(), commands.end(),
+                     [&name](const Command& command) { return command.name == name; });
+    return found == commands.end() ? nullptr : &*found;
+}
+
+// What is wrong with the words after the command's name.
+std::optional<std::string> faultOf(const Command& command, const std::vector<std::string>& words) {
+    for (const std::string& word : words) {
+        if (command.words.empty())
+            return command.name + " takes no more words";
+        if (std::find(command.words.begin(), command.words.end(), word) == command.words.end())
+            return unknownWord("word for " + command.name, word, command.words);
+    }
+    if (words.size() < command.fewestWords)
+        return command.name + " needs one of: " + listed(command.words);
+    if (words.size() > command.mostWords)
+        return command.name + " takes one word only";
+    return std::nullopt;
+}
+
+ExitStatus wrongUsage(Session& session, const std::string& fault) {
+    session.output.complaint(fault);
+    session.output.prompt("Try \"tarnwick --help\".\n");
+    return WrongUsage;
+}
+
+ExitStatus runLocked(Session& session, const Command& command,
+                     const std::vector<std::string>& words) {
+    if (!session.world.isRoot) {
+        session.output.complaint(command.name + " needs root");
+        return NotRoot;
+    }
+    const RunLock lock(session.world.lockPath);
+    if (lock.state() == RunLock::State::TakenByAnother) {
+        session.output.complaint("another run is under way");
+        return RunUnderWay;
+    }
+    if (lock.state() == RunLock::State::Unavailable) {
+        session.output.complaint("cannot tell whether another run is under way: " +
+                                 session.world.lockPath + " cannot be opened");
+        return RunUnderWay;
+    }
+    return command.run(session, words);
+}
+
+}  // namespace
+
+ExitStatus runCommandLine(const Arguments& arguments, const World& world) {
+    Session session(world, arguments);
+    if (arguments.fault)
+        return wrongUsage(session, *arguments.fault);
+    if (arguments.help) {
+        session.output.result(helpText(session.catalogue), {});
+        return AllDone;
+    }
+    if (arguments.version) {
+        session.output.result("tarnwick " TARNWICK_VERSION, {});
+        return AllDone;
+    }
+    if (arguments.words.empty())
+        return wrongUsage(session, "say what to do");
+    const auto commands = commandTable(session.catalogue);
+    const std::string& name = arguments.words.front();
+    const Command* command = commandOf(commands, name);
+    if (command == nullptr)
+        return wrongUsage(session, unknownWord("command", name, namesOf(commands)));
+    const std::vector<std::string> words(arguments.words.begin() + 1, arguments.words.end());
+    if (const auto fault = faultOf(*command, words))
+        return wrongUsage(session, *fault);
+    if (command->reach == Reach::Changes && !arguments.dryRun)
+        return runLocked(session, *command, words);
+    return command->run(session, words);
+}
+
+}  // namespace tarnwick

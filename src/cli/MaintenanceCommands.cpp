@@ -1,0 +1,74 @@
+#include <algorithm>
+
+#include "cli/Commands.h"
+#include "cli/Words.h"
+
+namespace tarnwick {
+
+namespace {
+
+// Answers the question that the action asks, if it may be answered, with its first other button.
+ExitStatus confirmed(Session& session, void (OptionsOperations::*action)()) {
+    (session.options.*action)();
+    const Alert question = session.feedback.takeQuestion().value();
+    if (const auto refused = session.refusal(question))
+        return *refused;
+    session.options.alertViewClickedButtonAtIndex(question, 1);
+    return AllDone;
+}
+
+// The words of the command line are themselves the answer to a choice.
+void choose(Session& session, int buttonIndex) {
+    session.options.alertViewClickedButtonAtIndex(session.feedback.takeQuestion().value(),
+                                                  buttonIndex);
+}
+
+int buttonIndexOf(const std::string& word, const std::vector<std::string>& words) {
+    return static_cast<int>(std::find(words.begin(), words.end(), word) - words.begin()) + 1;
+}
+
+}  // namespace
+
+std::vector<std::string> folderWords() {
+    std::vector<std::string> words;
+    for (const RecreatableFolder& folder : recreatableFolders())
+        words.push_back(folder.path.substr(folder.path.rfind('/') + 1));
+    return words;
+}
+
+ExitStatus tellSize(Session& session, const std::vector<std::string>& words) {
+    const BackupItem& item = *itemOfWord(session.catalogue, words.front());
+    session.feedback.setPlan({&item});
+    std::vector<std::string> leftovers = item.sizeCopyPaths;
+    leftovers.insert(leftovers.end(), item.sizeArchivePaths.begin(), item.sizeArchivePaths.end());
+    const auto work = [&] {
+        session.options.backupSize();
+        choose(session, buttonIndexOf(words.front(), itemWords(session.catalogue)));
+    };
+    return session.perform(work, leftovers) ? AllDone : Interrupted;
+}
+
+ExitStatus recreateFolders(Session& session, const std::vector<std::string>& words) {
+    constexpr int allFolders = 1;
+    constexpr int partially = 2;
+    session.options.recreateApplicationFolders();
+    choose(session, words.empty() ? allFolders : partially);
+    if (!words.empty())
+        choose(session, buttonIndexOf(words.front(), folderWords()));
+    return AllDone;
+}
+
+ExitStatus removeSaved(Session& session, const std::vector<std::string>& words) {
+    return confirmed(session, words.front() == "backups" ? &OptionsOperations::removeSafeguard
+                                                         : &OptionsOperations::removeSourcesList);
+}
+
+ExitStatus respringDevice(Session& session, const std::vector<std::string>&) {
+    return confirmed(session, &OptionsOperations::respring);
+}
+
+ExitStatus rebootDevice(Session& session, const std::vector<std::string>&) {
+    return confirmed(session, &OptionsOperations::reboot);
+}
+
+}  // namespace tarnwick

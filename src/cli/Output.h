@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+
+#include "cli/Json.h"
+#include "cli/Streams.h"
+#include "core/Alert.h"
+
+namespace tarnwick {
+
+enum class Format { Text, Json };
+enum class Colour { Plain, Coloured };
+
+// Writes lines: results to the one stream, problems to the other. A stream that nobody reads any
+// more is written to no longer and holds nothing up. One thread at a time.
+class Output {
+public:
+    Output(const Streams& streams, Format format, Colour colour);
+
+    Format format() const { return format_; }
+
+    // One line: the text, or the fields as an object.
+    void result(const std::string& text, const JsonFields& fields);
+    void problem(const std::string& text, const JsonFields& fields);
+    // "TITLE: MESSAGE", as a result or a problem by the alert's kind.
+    void alert(const Alert& alert);
+    // A word from the program itself, always as text, to the stream of the problems.
+    void complaint(const std::string& text);
+    // Text as it stands, without a line's end.
+    void prompt(const std::string& text);
+
+private:
+    Streams streams_;
+    Format format_;
+    Colour colour_;
+};
+
+}  // namespace tarnwick

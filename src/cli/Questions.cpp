@@ -1,0 +1,43 @@
+#include "cli/Questions.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+
+namespace tarnwick {
+
+namespace {
+
+std::string readLine(int descriptor) {
+    std::string line;
+    char character = 0;
+    for (;;) {
+        const ssize_t count = ::read(descriptor, &character, 1);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0 || character == '\n')
+            return line;
+        line += character;
+    }
+}
+
+}  // namespace
+
+Questions::Questions(const Streams& streams, Output& output) : streams_(streams), output_(output) {}
+
+bool Questions::canAsk() const {
+    return ::isatty(streams_.input) == 1 && ::isatty(streams_.problems) == 1;
+}
+
+bool Questions::confirm(const Alert& alert) {
+    output_.prompt(alert.title + ": " + alert.message + "\n");
+    return confirm(alert.otherButtonTitles.front());
+}
+
+bool Questions::confirm(const std::string& button) {
+    output_.prompt(button + " ? [y/N] ");
+    const std::string answer = readLine(streams_.input);
+    return answer == "y" || answer == "Y" || answer == "yes" || answer == "Yes";
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,124 @@
+#include <algorithm>
+#include <functional>
+
+#include "cli/Commands.h"
+#include "cli/Words.h"
+#include "core/SafeguardPaths.h"
+
+namespace tarnwick {
+
+namespace {
+
+constexpr const char* everyItem = "all";
+
+using Plan = std::vector<const BackupItem*>;
+using Steps = std::vector<std::function<void()>>;
+
+std::size_t placeOf(const std::string& word, const ItemCatalogue& catalogue) {
+    const auto words = targetWords(catalogue);
+    return static_cast<std::size_t>(std::find(words.begin(), words.end(), word) - words.begin());
+}
+
+// The items that the words name, those of "all" as far as `wanted` says.
+Plan planOf(const ItemCatalogue& catalogue, const std::vector<std::string>& words,
+            const std::function<bool(const BackupItem&)>& wanted) {
+    Plan plan;
+    for (const std::string& word : words) {
+        for (const BackupItem& item : catalogue)
+            if (word == everyItem ? wanted(item) : kebabCase(item.key) == word)
+                plan.push_back(&item);
+    }
+    return plan;
+}
+
+std::vector<std::string> stagingPathsOf(const Plan& plan) {
+    std::vector<std::string> paths;
+    for (const BackupItem* item : plan)
+        paths.insert(paths.end(), item->stagingPaths.begin(), item->stagingPaths.end());
+    return paths;
+}
+
+// The steps of the words, in their order; a refused question gives the status to end with instead.
+std::optional<ExitStatus> addRestoreSteps(Session& session, const std::vector<std::string>& words,
+                                          Steps& steps) {
+    const auto actions = restoreActions(session.catalogue);
+    for (const std::string& word : words) {
+        const auto action = actions[placeOf(word, session.catalogue)].run;
+        if (word != everyItem) {
+            steps.push_back([&session, action] { action(session.restore); });
+            continue;
+        }
+        action(session.restore);
+        const Alert question = session.feedback.takeQuestion().value();
+        if (const auto refused = session.refusal(question))
+            return refused;
+        steps.push_back(
+            [&session, question] { session.restore.alertViewClickedButtonAtIndex(question, 1); });
+    }
+    return std::nullopt;
+}
+
+// What to do about an offer: as --then says, else as the person at the terminal says, else nothing.
+Offer answerTo(Session& session, Offer offer) {
+    if (session.arguments.then)
+        return *session.arguments.then;
+    if (session.arguments.dryRun || !session.questions.canAsk())
+        return Offer::None;
+    const bool agreed =
+        session.questions.confirm(offer == Offer::Reboot ? "Reboot now" : "Respring now");
+    return agreed ? offer : Offer::None;
+}
+
+void follow(Session& session, Offer offer) {
+    if (offer == Offer::None)
+        return;
+    Alert answered;
+    answered.tag =
+        offer == Offer::Reboot ? RestoreOperations::RebootTag : RestoreOperations::RespringTag;
+    session.restore.alertViewClickedButtonAtIndex(answered, 1);
+}
+
+}  // namespace
+
+std::vector<std::string> targetWords(const ItemCatalogue& catalogue) {
+    std::vector<std::string> words = {"sources", "packages", everyItem};
+    const auto items = itemWords(catalogue);
+    words.insert(words.end(), items.begin(), items.end());
+    return words;
+}
+
+ExitStatus saveTargets(Session& session, const std::vector<std::string>& words) {
+    const Plan plan = planOf(session.catalogue, words, [](const BackupItem&) { return true; });
+    session.feedback.setPlan(plan);
+    const auto actions = backupActions(session.catalogue);
+    const auto work = [&] {
+        session.backup.ensureSafeguardFolders();
+        for (const std::string& word : words)
+            actions[placeOf(word, session.catalogue)].run(session.backup);
+    };
+    const auto report = session.perform(work, stagingPathsOf(plan));
+    if (!report)
+        return Interrupted;
+    return report->hasProblem ? BackupMissing : AllDone;
+}
+
+ExitStatus restoreTargets(Session& session, const std::vector<std::string>& words) {
+    session.feedback.setPlan(planOf(session.catalogue, words, [&session](const BackupItem& item) {
+        return session.files.exists(item.archivePaths.front());
+    }));
+    Steps steps;
+    if (const auto refused = addRestoreSteps(session, words, steps))
+        return *refused;
+    const auto work = [&steps] {
+        for (const auto& step : steps)
+            step();
+    };
+    const auto report = session.perform(work, {std::string(paths::unpackedTree)});
+    if (!report)
+        return Interrupted;
+    if (report->offer != Offer::None)
+        follow(session, answerTo(session, report->offer));
+    return report->hasProblem ? BackupMissing : AllDone;
+}
+
+}  // namespace tarnwick

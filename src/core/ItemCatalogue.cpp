@@ -1,0 +1,249 @@
+#include "core/ItemCatalogue.h"
+
+#include <algorithm>
+
+#include "core/SafeguardPaths.h"
+
+namespace tarnwick {
+
+namespace {
+
+// A folder of a data set, and what sets it apart from the rule.
+struct Folder {
+    std::string source;
+    std::string errorNoun;
+    // The folder, slash at its end, that `cp -R` puts the staging copy into.
+    std::string stagingParent = std::string(paths::archiveFolder) + "/";
+    // Taken out of every copy before it is zipped.
+    std::string excluded = {};
+    // Where the unpacked archive is copied back from, if not from below its staging path.
+    std::string unpackedSource = {};
+    // The staging parent that the single save names, if another.
+    std::string singleSaveParent = {};
+};
+
+struct Description {
+    std::string key;
+    std::vector<Folder> folders;
+    std::string backupNoun;
+    std::string restoreNoun;
+    std::string sizeButtonTitle;
+    std::string sizeResultName;
+    std::string application = {};
+    std::string owner = "mobile:mobile";
+    Offer offer = Offer::None;
+};
+
+Folder libraryFolder(const std::string& name, const std::string& errorNoun) {
+    return {.source = "/var/mobile/Library/" + name, .errorNoun = errorNoun};
+}
+
+// Staged outside of the safeguard folder, which lies inside the folder that is saved.
+Folder preferencesFolder() {
+    Folder folder = libraryFolder("Preferences", "Preferences");
+    folder.stagingParent = paths::scratchFolder;
+    folder.excluded = "/Tarnwick";
+    folder.unpackedSource = "/var/tmp/var/tmp/Preferences/";
+    return folder;
+}
+
+// The restore looks below the live folder's own path, where no archive of ours holds it.
+Folder callHistoryFolder() {
+    return {.source = "/var/wireless/Library/CallHistory",
+            .errorNoun = "Call History",
+            .unpackedSource = "/var/tmp/var/wireless/Library/CallHistory"};
+}
+
+// The single save counts on the process standing in "/".
+Folder springBoardFolder() {
+    Folder folder = libraryFolder("SpringBoard", "SpringBoard");
+    folder.singleSaveParent = folder.stagingParent.substr(1);
+    return folder;
+}
+
+std::vector<Description> descriptions() {
+    return {
+        {.key = "TweaksPrefs",
+         .folders = {preferencesFolder()},
+         .backupNoun = "Tweaks' Preferences",
+         .restoreNoun = "Tweaks' Preferences",
+         .sizeButtonTitle = "Tweaks' Preferences",
+         .sizeResultName = "Preferences",
+         .owner = ""},
+        {.key = "Accounts",
+         .folders = {libraryFolder("Accounts", "Accounts")},
+         .backupNoun = "Accounts",
+         .restoreNoun = "Accounts",
+         .sizeButtonTitle = "Accounts",
+         .sizeResultName = "Accounts",
+         .offer = Offer::Reboot},
+        {.key = "Calendar",
+         .folders = {libraryFolder("Calendar", "Calendar")},
+         .backupNoun = "Calendar",
+         .restoreNoun = "Calendar",
+         .sizeButtonTitle = "Calendar Events",
+         .sizeResultName = "Calendar Events",
+         .application = "MobileCal"},
+        {.key = "CallHistory",
+         .folders = {callHistoryFolder()},
+         .backupNoun = "Call History",
+         .restoreNoun = "Call History",
+         .sizeButtonTitle = "Call History",
+         .sizeResultName = "Call History",
+         .application = "MobilePhone",
+         .owner = "_wireless:_wireless",
+         .offer = Offer::Reboot},
+        {.key = "Contacts",
+         .folders = {libraryFolder("AddressBook", "Contacts")},
+         .backupNoun = "Contacts",
+         .restoreNoun = "Contacts",
+         .sizeButtonTitle = "Contacts",
+         .sizeResultName = "Contacts",
+         .application = "Contacts"},
+        {.key = "Messages",
+         .folders = {libraryFolder("SMS", "Messages/iMessages")},
+         .backupNoun = "Messages/iMessages",
+         .restoreNoun = "Messages/iMessages",
+         .sizeButtonTitle = "Messages / iMessages",
+         .sizeResultName = "Messages / iMessages",
+         .application = "MobileSMS",
+         .offer = Offer::Reboot},
+        {.key = "Notes",
+         .folders = {libraryFolder("Notes", "Notes")},
+         .backupNoun = "Notes",
+         .restoreNoun = "Notes",
+         .sizeButtonTitle = "Notes",
+         .sizeResultName = "Notes",
+         .application = "MobileNotes"},
+        {.key = "Photos",
+         .folders = {{.source = "/var/mobile/Media/DCIM", .errorNoun = "Photos and Videos"},
+                     {.source = "/var/mobile/Media/PhotoData", .errorNoun = "PhotoData"}},
+         .backupNoun = "Photos and Videos",
+         .restoreNoun = "Photos",
+         .sizeButtonTitle = "Photos / Videos",
+         .sizeResultName = "Photos / Videos",
+         .application = "MobileSlideShow"},
+        {.key = "Safari",
+         .folders = {libraryFolder("Safari", "Safari Bookmarks")},
+         .backupNoun = "Safari Bookmarks",
+         .restoreNoun = "Safari Bookmarks",
+         .sizeButtonTitle = "Safari Bookmarks",
+         .sizeResultName = "Safari Bookmarks",
+         .application = "MobileSafari"},
+        {.key = "Springboard",
+         .folders = {springBoardFolder()},
+         .backupNoun = "SpringBoard",
+         .restoreNoun = "SpringBoard",
+         .sizeButtonTitle = "SpringBoard",
+         .sizeResultName = "SpringBoard",
+         .offer = Offer::Respring},
+        {.key = "Voicemails",
+         .folders = {libraryFolder("Voicemail", "Voicemails")},
+         .backupNoun = "Voicemails",
+         .restoreNoun = "Voicemails",
+         .sizeButtonTitle = "Voicemails",
+         .sizeResultName = "Voicemails",
+         .application = "MobilePhone",
+         .offer = Offer::Reboot},
+    };
+}
+
+std::string nameOf(const Folder& folder) {
+    return folder.source.substr(folder.source.rfind('/') + 1);
+}
+
+std::string liveParentOf(const Folder& folder) {
+    return folder.source.substr(0, folder.source.rfind('/') + 1);
+}
+
+std::string stagingOf(const Folder& folder) {
+    return folder.stagingParent + nameOf(folder);
+}
+
+std::string archiveOf(const Folder& folder) {
+    return std::string(paths::archiveFolder) + "/" + nameOf(folder) + ".zip";
+}
+
+// Copies the folder into the parent and zips the copy.
+std::vector<std::string> archiving(const Folder& folder, const std::string& copyTarget,
+                                   const std::string& stagingParent, const std::string& archive) {
+    const std::string staging = stagingParent + nameOf(folder);
+    std::vector<std::string> lines = {"cp -R " + folder.source + " " + copyTarget};
+    if (!folder.excluded.empty())
+        lines.push_back("rm -rf " + staging + folder.excluded);
+    lines.push_back("zip -r " + archive + " " + staging + "/");
+    return lines;
+}
+
+std::vector<std::string> restoring(const Folder& folder, const std::string& owner) {
+    const std::string unpacked =
+        folder.unpackedSource.empty() ? "/var/tmp" + stagingOf(folder) : folder.unpackedSource;
+    std::vector<std::string> lines = {
+        "/usr/bin/unzip " + archiveOf(folder) + " -d " + std::string(paths::scratchFolder),
+        "/bin/cp -R " + unpacked + " " + liveParentOf(folder),
+        "/bin/rm -rf " + std::string(paths::unpackedTree),
+    };
+    if (!owner.empty())
+        lines.push_back("chown -R " + owner + " " + folder.source);
+    return lines;
+}
+
+void append(std::vector<std::string>& lines, const std::vector<std::string>& more) {
+    lines.insert(lines.end(), more.begin(), more.end());
+}
+
+void addSaving(BackupItem& item, const Folder& folder) {
+    const std::string& parent = folder.stagingParent;
+    const std::string& single = folder.singleSaveParent.empty() ? parent : folder.singleSaveParent;
+    item.sourcePaths.push_back(folder.source);
+    item.stagingPaths.push_back(stagingOf(folder));
+    item.archivePaths.push_back(archiveOf(folder));
+    item.errorTitles.push_back(folder.errorNoun + " Backup Error");
+    item.errorMessages.push_back("There was an error during the " + folder.errorNoun +
+                                 " backup. Nothing has been done. Please try again !");
+    append(item.saveCommands, archiving(folder, single, parent, archiveOf(folder)));
+    append(item.allInOneSaveCommands, archiving(folder, parent, parent, archiveOf(folder)));
+}
+
+void addSizing(BackupItem& item, const Folder& folder) {
+    const std::string scratch(paths::scratchFolder);
+    const std::string archive = scratch + nameOf(folder) + ".zip";
+    item.sizeArchivePaths.push_back(archive);
+    item.sizeCopyPaths.push_back(scratch + nameOf(folder));
+    append(item.sizeCommands, archiving(folder, scratch, scratch, archive));
+}
+
+BackupItem itemFrom(const Description& description) {
+    BackupItem item;
+    item.key = description.key;
+    item.successTitle = description.backupNoun + " Backup";
+    item.restoreTitle = description.restoreNoun + " Restoration";
+    item.missingBackupMessage =
+        "You have no " + description.restoreNoun + " backup, there is nothing to do !";
+    if (!description.application.empty())
+        item.stopCommand = "killall " + description.application;
+    item.offer = description.offer;
+    item.sizeButtonTitle = description.sizeButtonTitle;
+    item.sizeResultName = description.sizeResultName;
+    for (const Folder& folder : description.folders) {
+        addSaving(item, folder);
+        append(item.restoreCommands, restoring(folder, description.owner));
+        addSizing(item, folder);
+    }
+    return item;
+}
+
+}  // namespace
+
+ItemCatalogue::ItemCatalogue() {
+    for (const Description& description : descriptions())
+        items_.push_back(itemFrom(description));
+}
+
+const BackupItem* ItemCatalogue::find(std::string_view key) const {
+    const auto found = std::find_if(items_.begin(), items_.end(),
+                                    [key](const BackupItem& item) { return item.key == key; });
+    return found == items_.end() ? nullptr : &*found;
+}
+
+}  // namespace tarnwick

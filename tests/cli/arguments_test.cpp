@@ -1,0 +1,73 @@
+#include "cli/Arguments.h"
+
+#include <gtest/gtest.h>
+
+#include "cli/NearestWord.h"
+#include "cli/ProgressLine.h"
+#include "cli/Words.h"
+
+namespace tarnwick {
+namespace {
+
+TEST(Arguments, OptionsStandAnywhere) {
+    const Arguments typed =
+        parseArguments({"--yes", "restore", "--then", "reboot", "notes", "--json"});
+    EXPECT_EQ(typed.words, (std::vector<std::string>{"restore", "notes"}));
+    EXPECT_TRUE(typed.yes && typed.json && !typed.dryRun && !typed.fault);
+    EXPECT_EQ(typed.then, Offer::Reboot);
+    EXPECT_EQ(parseArguments({"--then=nothing"}).then, Offer::None);
+    EXPECT_EQ(parseArguments({"list", "--", "--yes"}).words,
+              (std::vector<std::string>{"list", "--yes"}));
+}
+
+TEST(Arguments, FaultsNameTheNearestWord) {
+    const std::pair<std::vector<std::string>, const char*> rows[] = {
+        {{"--dryrun"}, "there is no option \"--dryrun\"; did you mean \"--dry-run\" ?"},
+        {{"-x"}, "there is no option \"-x\"; did you mean \"-h\" ?"},
+        {{"--then", "rebot"}, "there is no answer \"rebot\"; did you mean \"reboot\" ?"},
+        {{"--then=respirng"}, "there is no answer \"respirng\"; did you mean \"respring\" ?"},
+    };
+    for (const auto& [typed, fault] : rows)
+        EXPECT_EQ(parseArguments(typed).fault, fault);
+    EXPECT_TRUE(parseArguments({"--then"}).fault.has_value());
+}
+
+TEST(NearestWord, TakesABeginningOrTheFewestChanges) {
+    const std::vector<std::string> words = {"notes", "photos", "safari", "sources"};
+    for (const auto& [typed, nearest] :
+         std::vector<std::pair<std::string, std::string>>{{"note", "notes"},
+                                                          {"ntoes", "notes"},
+                                                          {"Photos", "photos"},
+                                                          {"safary", "safari"},
+                                                          {"source", "sources"},
+                                                          {"s", "safari"},
+                                                          {"", "notes"},
+                                                          {std::string(100000, 's'), "sources"}})
+        EXPECT_EQ(nearestWord(typed, words), nearest) << typed.substr(0, 20);
+}
+
+TEST(Words, ItemsGoByTheirKeysInKebabCase) {
+    const ItemCatalogue catalogue;
+    EXPECT_EQ(itemWords(catalogue),
+              (std::vector<std::string>{"tweaks-prefs", "accounts", "calendar", "call-history",
+                                        "contacts", "messages", "notes", "photos", "safari",
+                                        "springboard", "voicemails"}));
+    EXPECT_EQ(itemOfWord(catalogue, "call-history")->key, "CallHistory");
+    EXPECT_EQ(itemOfWord(catalogue, "CallHistory"), nullptr);
+}
+
+TEST(ProgressLine, ShowsItemPlaceAndTimeWithinTheWidth) {
+    using std::chrono::seconds;
+    Progress progress = {.label = "Backup in progress..."};
+    EXPECT_EQ(progressText(progress, seconds(5), 80), "Backup in progress... 0:05");
+    progress.item = "calendar";
+    progress.place = 3;
+    progress.count = 11;
+    EXPECT_EQ(progressText(progress, seconds(3661), 80),
+              "Backup in progress... calendar (3/11) 61:01");
+    EXPECT_EQ(progressText(progress, seconds(0), 10), "Backup in");
+    EXPECT_EQ(progressText(progress, seconds(0), 0), "");
+}
+
+}  // namespace
+}  // namespace tarnwick

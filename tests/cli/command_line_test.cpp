@@ -1,0 +1,259 @@
+#include <gtest/gtest.h>
+
+#include "cli/CommandLine.h"
+#include "cli/CommandTable.h"
+#include "cli/RunLock.h"
+#include "core/SafeguardPaths.h"
+#include "support/CommandLineRun.h"
+#include "support/Events.h"
+
+namespace tarnwick {
+namespace {
+
+using testing::CommandLineRun;
+using testing::Entries;
+
+const std::string root = "/var/mobile/Library/Preferences/Tarnwick";
+const std::string library = root + "/TarnwickLibrary/";
+
+void putEveryArchive(CommandLineRun& tarnwick) {
+    for (const std::string_view folder : paths::safeguardFolders)
+        tarnwick.files.texts.emplace(folder, "");
+    for (const BackupItem& item : ItemCatalogue())
+        for (const std::string& path : item.archivePaths)
+            tarnwick.files.texts[path] = "zip";
+}
+
+TEST(CommandLine, WrongUsageNamesTheNearestWordAndDoesNothing) {
+    const std::pair<const char*, const char*> rows[] = {
+        {"", "say what to do"},
+        {"sav all", "there is no command \"sav\"; did you mean \"save\" ?"},
+        {"save note", "there is no word for save \"note\"; did you mean \"notes\" ?"},
+        {"save notes fhotos", "there is no word for save \"fhotos\"; did you mean \"photos\" ?"},
+        {"restore call_history",
+         "there is no word for restore \"call_history\"; did you mean \"call-history\" ?"},
+        {"remove backup", "there is no word for remove \"backup\"; did you mean \"backups\" ?"},
+        {"remove", "remove needs one of: backups, sources-list"},
+        {"size notes photos", "size takes one word only"},
+        {"folders tarnwick",
+         "there is no word for folders \"tarnwick\"; did you mean \"Tarnwick\" ?"},
+        {"reboot now", "reboot takes no more words"},
+        {"save all --dry", "there is no option \"--dry\"; did you mean \"--dry-run\" ?"},
+    };
+    for (const auto& [words, fault] : rows) {
+        CommandLineRun tarnwick;
+        EXPECT_EQ(tarnwick(words), WrongUsage) << words;
+        EXPECT_EQ(tarnwick.problems(),
+                  "tarnwick: " + std::string(fault) + "\nTry \"tarnwick --help\".\n");
+        EXPECT_TRUE(tarnwick.diary.entries.empty()) << words;
+    }
+}
+
+TEST(CommandLine, EveryCommandStandsInTheHelp) {
+    CommandLineRun tarnwick;
+    EXPECT_EQ(tarnwick("--help"), AllDone);
+    for (const Command& command : commandTable(ItemCatalogue()))
+        EXPECT_NE(tarnwick.results().find("\n  " + command.name), std::string::npos)
+            << command.name;
+    EXPECT_EQ(tarnwick("--version"), AllDone);
+}
+
+TEST(CommandLine, WhatChangesTheDeviceNeedsRootAndNoOtherRun) {
+    CommandLineRun tarnwick;
+    for (const Command& command : commandTable(ItemCatalogue())) {
+        if (command.reach == Reach::Looks)
+            continue;
+        const std::string words =
+            command.name + (command.fewestWords > 0 ? " " + command.words.back() : "");
+        tarnwick.isRoot = false;
+        EXPECT_EQ(tarnwick(words), NotRoot) << words;
+        EXPECT_EQ(tarnwick.problems(), "tarnwick: " + command.name + " needs root\n");
+        tarnwick.isRoot = true;
+        const RunLock other(tarnwick.lockPath);
+        EXPECT_EQ(tarnwick(words), RunUnderWay) << words;
+        EXPECT_EQ(tarnwick.problems(), "tarnwick: another run is under way\n");
+        EXPECT_TRUE(tarnwick.diary.entries.empty()) << words;
+    }
+    tarnwick.isRoot = false;
+    for (const char* words : {"list", "check", "storage", "faq", "save all --dry-run"})
+        EXPECT_EQ(tarnwick(words), AllDone) << words;
+}
+
+TEST(CommandLine, SavesTheNamedTargetsInTheirOrder) {
+    CommandLineRun tarnwick;
+    tarnwick.runner.act = [&](const std::string& line) {
+        if (line.starts_with("zip"))
+            tarnwick.files.texts[library + "Notes.zip"] = "zip";
+    };
+    EXPECT_EQ(tarnwick("save packages notes calendar"), BackupMissing);
+    EXPECT_EQ(tarnwick.results(),
+              "Cydia Packages Backup: Backup done !\nNotes Backup: Backup done !\n");
+    EXPECT_EQ(
+        tarnwick.problems(),
+        "Calendar Backup Error: There was an error during the Calendar backup. Nothing has been "
+        "done. Please try again !\n");
+    const Entries changes = tarnwick.diary.changes();
+    EXPECT_EQ(Entries(changes.begin(), changes.begin() + 4),
+              (Entries{"create folder: " + root, "create folder: " + root + "/CydiaSources",
+                       "create folder: " + root + "/CydiaPackages",
+                       "create folder: " + root + "/TarnwickLibrary"}));
+}
+
+TEST(CommandLine, ARehearsalPrintsWhatTheRunDoesAndDoesNothing) {
+    for (const auto& [verb, events] : testing::literalEvents()) {
+        if (verb.find(',') != std::string::npos || verb == "questions")
+            continue;
+        CommandLineRun tarnwick;
+        if (!verb.starts_with("size"))
+            putEveryArchive(tarnwick);
+        tarnwick.files.texts[root + "/CydiaPackages/installed-packages.txt"] = "";
+        tarnwick.files.texts["/etc/apt/sources.list.d/TWKSources.list"] = "";
+        EXPECT_EQ(tarnwick(verb + " --dry-run"), AllDone) << verb;
+        const Entries changes = testing::changesIn(events);
+        std::string expected;
+        for (const std::string& change : changes)
+            expected += change + "\n";
+        EXPECT_EQ(tarnwick.results(), expected) << verb;
+        EXPECT_TRUE(tarnwick.diary.changes().empty()) << verb;
+        tarnwick(verb + " --yes --then nothing");
+        EXPECT_EQ(tarnwick.diary.changes(), changes) << verb;
+    }
+}
+
+TEST(CommandLine, ARehearsalTellsCopiesAndWrites) {
+    CommandLineRun tarnwick;
+    putEveryArchive(tarnwick);
+    EXPECT_EQ(tarnwick("save sources --dry-run --json"), AllDone);
+    EXPECT_EQ(tarnwick.results(), "{\"copy\":\"/etc/apt/sources.list.d/cydia.list\",\"to\":\"" +
+                                      root + "/CydiaSources/cydia.list\"}\n");
+    tarnwick.files.texts["/var/mobile/Library/Caches/com.saurik.Cydia/sources.list"] = "deb";
+    EXPECT_EQ(tarnwick("restore sources accounts --dry-run --then reboot"), AllDone);
+    EXPECT_TRUE(tarnwick.results().starts_with(
+        "create file: /etc/apt/sources.list.d/TWKSources.list\n"
+        "write: /etc/apt/sources.list.d/TWKSources.list\nrun: /usr/bin/unzip"));
+    EXPECT_TRUE(tarnwick.results().ends_with("run: /sbin/reboot\n"));
+}
+
+TEST(CommandLine, ConfirmationsAreRefusedWithoutATerminal) {
+    for (const char* words :
+         {"restore all", "remove backups", "remove sources-list", "respring", "reboot"}) {
+        CommandLineRun tarnwick;
+        EXPECT_EQ(tarnwick(words), WrongUsage) << words;
+        EXPECT_NE(tarnwick.problems().find("--yes"), std::string::npos) << words;
+        EXPECT_TRUE(tarnwick.diary.changes().empty()) << words;
+    }
+    CommandLineRun tarnwick;
+    EXPECT_EQ(tarnwick("remove sources-list --yes"), AllDone);
+    EXPECT_EQ(tarnwick.results(), "TWKSources Suppression: Nothing to remove\n");
+}
+
+TEST(CommandLine, TheOfferIsClosedUnlessThenSaysOtherwise) {
+    const auto lastChange = [](const std::string& words) {
+        CommandLineRun tarnwick;
+        putEveryArchive(tarnwick);
+        EXPECT_EQ(tarnwick(words), AllDone) << words;
+        return tarnwick.diary.changes().back();
+    };
+    const std::string springBoard = "run: chown -R mobile:mobile /var/mobile/Library/SpringBoard";
+    EXPECT_EQ(lastChange("restore accounts springboard"), springBoard);
+    EXPECT_EQ(lastChange("restore springboard --then nothing"), springBoard);
+    EXPECT_EQ(lastChange("restore springboard --then respring"),
+              "run: /usr/bin/killall backboardd");
+    EXPECT_EQ(lastChange("restore all --yes --then reboot"), "run: /sbin/reboot");
+    // Nothing is offered, so there is nothing to answer.
+    EXPECT_EQ(lastChange("restore notes --then reboot"),
+              "run: chown -R mobile:mobile /var/mobile/Library/Notes");
+}
+
+TEST(CommandLine, AMissingBackupIsAProblemEvenIfTheRestIsRestored) {
+    CommandLineRun tarnwick;
+    tarnwick.files.texts[library + "Notes.zip"] = "zip";
+    EXPECT_EQ(tarnwick("restore notes packages"), BackupMissing);
+    EXPECT_EQ(tarnwick.results(), "Notes Restoration: Restoration done !\n");
+    EXPECT_EQ(tarnwick.problems(),
+              "Cydia Packages Restoration: You have no Cydia Packages backup, there is nothing to "
+              "do !\n");
+}
+
+TEST(CommandLine, AnInterruptedRunTakesItsStagingCopiesAway) {
+    CommandLineRun tarnwick;
+    tarnwick.end = SupervisedRun::End::Interrupted;
+    EXPECT_EQ(tarnwick("save photos tweaks-prefs"), Interrupted);
+    EXPECT_EQ(tarnwick.diary.entries,
+              (Entries{"remove: " + library + "DCIM", "remove: " + library + "PhotoData",
+                       "remove: /var/tmp/Preferences"}));
+    EXPECT_EQ(tarnwick("restore notes"), Interrupted);
+    EXPECT_EQ(tarnwick.diary.entries.back(), "remove: /var/tmp/var");
+    EXPECT_EQ(tarnwick("size notes"), Interrupted);
+    EXPECT_EQ(tarnwick.diary.entries,
+              (Entries{"remove: /var/tmp/Notes", "remove: /var/tmp/Notes.zip"}));
+    tarnwick.end = SupervisedRun::End::Crashed;
+    EXPECT_EQ(tarnwick("save notes"), BackupMissing);
+    EXPECT_EQ(tarnwick.problems(), "tarnwick: the run ended unexpectedly\n");
+}
+
+TEST(CommandLine, CheckNamesEachArchive) {
+    CommandLineRun tarnwick;
+    tarnwick.files.texts[library + "Notes.zip"] = "zip";
+    EXPECT_EQ(tarnwick("check"), AllDone);
+    EXPECT_EQ(tarnwick.results(), "Notes.zip: good\n");
+    EXPECT_EQ(tarnwick.diary.changes(),
+              Entries{"run: /usr/bin/unzip -tqq " + library + "Notes.zip"});
+    tarnwick.runner.status = 3 << 8;
+    EXPECT_EQ(tarnwick("check notes photos"), BackupMissing);
+    EXPECT_EQ(tarnwick.problems(),
+              "Notes.zip: damaged\nDCIM.zip: missing\nPhotoData.zip: missing\n");
+}
+
+TEST(CommandLine, ListShowsWhatIsThere) {
+    CommandLineRun tarnwick;
+    EXPECT_EQ(tarnwick("list"), AllDone);
+    EXPECT_EQ(tarnwick.results(), "The safeguard folder is empty.\n");
+    tarnwick.files.listing = {"b\033[2J.zip", "a.zip"};
+    EXPECT_EQ(tarnwick("list"), AllDone);
+    EXPECT_NE(tarnwick.results().find("0.00 B  TarnwickLibrary/b?[2J.zip\n"), std::string::npos);
+    EXPECT_LT(tarnwick.results().find("a.zip"), tarnwick.results().find("b?"));
+    tarnwick.files.listing.reset();
+    tarnwick.files.texts[root + "/CydiaSources"] = "";
+    tarnwick.isRoot = false;
+    EXPECT_EQ(tarnwick("list"), NotRoot);
+}
+
+TEST(CommandLine, TellsSizesAndStorageInBothForms) {
+    CommandLineRun tarnwick;
+    tarnwick.files.total = 68719476736;
+    tarnwick.files.free = 13421772800;
+    EXPECT_EQ(tarnwick("storage"), AllDone);
+    EXPECT_EQ(tarnwick.results(), "Total: 64.00 GB\nFree: 12.50 GB\n");
+    EXPECT_EQ(tarnwick("storage --json"), AllDone);
+    EXPECT_EQ(tarnwick.results(), "{\"total\":\"64.00 GB\",\"free\":\"12.50 GB\"}\n");
+    tarnwick.files.texts[library + "SMS.zip"] = std::string(1024, 'x');
+    EXPECT_EQ(tarnwick("size messages --json"), AllDone);
+    EXPECT_EQ(tarnwick.results(),
+              "{\"title\":\"Backup Size\",\"message\":\"The \\\"Messages / iMessages\\\" backup "
+              "size is : "
+              "1.00 KB\"}\n");
+}
+
+TEST(CommandLine, FoldersGoByTheirNames) {
+    CommandLineRun tarnwick;
+    EXPECT_EQ(tarnwick("folders"), AllDone);
+    EXPECT_EQ(tarnwick.diary.changes().size(), 4U);
+    EXPECT_EQ(tarnwick("folders TarnwickLibrary"), AllDone);
+    EXPECT_EQ(tarnwick.results(), "Create Library Folder: Successful !\n");
+    EXPECT_EQ(tarnwick.diary.changes(), Entries{"create folder: " + root + "/TarnwickLibrary"});
+}
+
+TEST(CommandLine, TheHelpTextsComeInOrder) {
+    CommandLineRun tarnwick;
+    EXPECT_EQ(tarnwick("faq"), AllDone);
+    EXPECT_TRUE(tarnwick.results().starts_with("Here you cand find some Help about Tarnwick"));
+    EXPECT_NE(tarnwick.results().find("contact).\n\nTarnwick 2 safeguard folder is located at "
+                                      "/var/mobile/Library/Preferences/Tarnwick\n\nHow can I do"),
+              std::string::npos);
+    EXPECT_TRUE(
+        tarnwick.results().ends_with("I will in the future add a way to delete one at one)\n"));
+}
+
+}  // namespace
+}  // namespace tarnwick

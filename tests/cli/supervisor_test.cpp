@@ -1,0 +1,120 @@
+#include "cli/Supervisor.h"
+
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <fstream>
+#include <thread>
+
+#include "support/TemporaryFolder.h"
+
+namespace tarnwick {
+namespace {
+
+using testing::TemporaryFolder;
+
+// Waits for what must come; gives up only long after it should have.
+template <class Condition>
+bool comesTrue(Condition condition) {
+    const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    while (std::chrono::steady_clock::now() < limit) {
+        if (condition())
+            return true;
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    return false;
+}
+
+bool lives(const std::string& pid) {
+    return ::kill(std::stoi(pid), 0) == 0;
+}
+
+// Runs the work supervised in a process of its own, sends that process the signal once the work has
+// put its commands' numbers into the file "ready", and returns how the supervision ended.
+int endAfter(int signal, const std::function<int()>& work, const TemporaryFolder& folder) {
+    const pid_t supervisor = ::fork();
+    if (supervisor == 0)
+        ::_exit(static_cast<int>(supervise(work).end));
+    EXPECT_TRUE(comesTrue([&] { return folder.content("ready").ends_with("\n"); }));
+    ::kill(supervisor, signal);
+    int status = 0;
+    EXPECT_EQ(::waitpid(supervisor, &status, 0), supervisor);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+}
+
+constexpr int interrupted = static_cast<int>(SupervisedRun::End::Interrupted);
+
+TEST(Supervisor, HandsTheStatusOn) {
+    const SupervisedRun run = supervise([] { return 5; });
+    EXPECT_EQ(run.end, SupervisedRun::End::Finished);
+    EXPECT_EQ(run.status, 5);
+}
+
+TEST(Supervisor, TellsWorkThatWasKilled) {
+    const SupervisedRun run = supervise([] { return ::raise(SIGKILL); });
+    EXPECT_EQ(run.end, SupervisedRun::End::Crashed);
+}
+
+TEST(Supervisor, AnInterruptEndsTheCommandsAndStartsNoMore) {
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT}) {
+        const TemporaryFolder folder;
+        const std::string go = "cd " + folder.path() + "; ";
+        const auto work = [&] {
+            static_cast<void>(!std::system((go + "sleep 1000 & echo $! $$ > ready; wait").c_str()));
+            static_cast<void>(!std::system((go + "touch second").c_str()));
+            return 0;
+        };
+        EXPECT_EQ(endAfter(signal, work, folder), interrupted) << signal;
+        std::ifstream numbers(folder.path() + "/ready");
+        for (std::string pid; numbers >> pid;)
+            EXPECT_FALSE(lives(pid)) << signal;
+        EXPECT_EQ(folder.content("second"), "(none)") << signal;
+    }
+}
+
+TEST(Supervisor, WaitsForACommandThatTidiesUp) {
+    const TemporaryFolder folder;
+    const auto work = [&folder] {
+        const std::string line =
+            "cd " + folder.path() +
+            " && trap 'sleep 0.3; echo tidy > done; exit' TERM && echo up > ready && "
+            "while :; do sleep 0.05; done";
+        return std::system(line.c_str());
+    };
+    EXPECT_EQ(endAfter(SIGINT, work, folder), interrupted);
+    EXPECT_EQ(folder.content("done"), "tidy\n");
+}
+
+TEST(Supervisor, KillsACommandThatWillNotEnd) {
+    const TemporaryFolder folder;
+    const auto work = [&folder] {
+        const std::string line =
+            "cd " + folder.path() +
+            " && trap '' TERM INT && echo $$ > ready && while :; do sleep 0.05; done";
+        return std::system(line.c_str());
+    };
+    EXPECT_EQ(endAfter(SIGTERM, work, folder), interrupted);
+    std::string pid = folder.content("ready");
+    EXPECT_FALSE(lives(pid));
+}
+
+TEST(Supervisor, AnInterruptCountsEvenWhereTheCallerIgnoresIt) {
+    // As a shell's background jobs do.
+    const TemporaryFolder folder;
+    const auto work = [&folder] {
+        return std::system(
+            ("cd " + folder.path() + " && echo $$ > ready && exec sleep 1000").c_str());
+    };
+    std::signal(SIGINT, SIG_IGN);
+    EXPECT_EQ(endAfter(SIGINT, work, folder), interrupted);
+    std::signal(SIGINT, SIG_DFL);
+    EXPECT_FALSE(lives(folder.content("ready")));
+}
+
+}  // namespace
+}  // namespace tarnwick

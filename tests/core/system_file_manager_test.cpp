@@ -1,0 +1,129 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+
+#include "core/SystemFileManager.h"
+#include "support/TemporaryFolder.h"
+
+namespace tarnwick {
+namespace {
+
+using testing::TemporaryFolder;
+
+mode_t modeOf(const std::string& path) {
+    struct stat status = {};
+    return ::stat(path.c_str(), &status) == 0 ? status.st_mode & 0777 : 0;
+}
+
+class SystemFileManagerTest : public ::testing::Test {
+protected:
+    TemporaryFolder folder;
+    SystemFileManager files{folder.path()};
+};
+
+TEST_F(SystemFileManagerTest, ExistenceFollowsLinks) {
+    folder.put("file", "");
+    ASSERT_EQ(::symlink("file", (folder.path() + "/good").c_str()), 0);
+    ASSERT_EQ(::symlink("nowhere", (folder.path() + "/dangling").c_str()), 0);
+    EXPECT_TRUE(files.exists("/file"));
+    EXPECT_TRUE(files.exists("/good"));
+    EXPECT_FALSE(files.exists("/dangling"));
+    EXPECT_FALSE(files.exists("/none"));
+}
+
+TEST_F(SystemFileManagerTest, RemovesAFolderWithAllInItButNotWhatALinkPointsTo) {
+    folder.put("kept/file", "kept");
+    folder.put("gone/deep/er/file", "");
+    ASSERT_EQ(::symlink("../kept", (folder.path() + "/gone/link").c_str()), 0);
+    EXPECT_TRUE(files.remove("/gone"));
+    EXPECT_FALSE(files.exists("/gone"));
+    EXPECT_EQ(folder.content("kept/file"), "kept");
+    EXPECT_FALSE(files.remove("/gone"));
+}
+
+TEST_F(SystemFileManagerTest, CopiesFilesAndFoldersButNeverOntoWhatIsThere) {
+    folder.put("source/deep/file", "text");
+    EXPECT_TRUE(files.copy("/source", "/copy"));
+    EXPECT_EQ(folder.content("copy/deep/file"), "text");
+    folder.put("file", "old");
+    EXPECT_FALSE(files.copy("/source/deep/file", "/file"));
+    EXPECT_EQ(folder.content("file"), "old");
+    ASSERT_EQ(::symlink("elsewhere", (folder.path() + "/dangling").c_str()), 0);
+    EXPECT_FALSE(files.copy("/file", "/dangling"));
+    EXPECT_EQ(folder.content("elsewhere"), "(none)");
+    EXPECT_FALSE(files.copy("/none", "/other"));
+}
+
+TEST_F(SystemFileManagerTest, MakesTheFoldersBetween) {
+    EXPECT_TRUE(files.createDirectory("/a/b/c"));
+    EXPECT_TRUE(files.createDirectory("/a/b/c"));
+    folder.put("file", "text");
+    EXPECT_FALSE(files.createDirectory("/file/below"));
+    EXPECT_EQ(folder.content("file"), "text");
+}
+
+TEST_F(SystemFileManagerTest, ReadsWholeValidTextOnly) {
+    folder.put("empty", "");
+    folder.put("good", "\u00E9\n");
+    folder.put("bad", "\xFF");
+    EXPECT_EQ(files.readText("/empty"), "");
+    EXPECT_EQ(files.readText("/good"), "\u00E9\n");
+    EXPECT_EQ(files.readText("/bad"), std::nullopt);
+    EXPECT_EQ(files.readText("/none"), std::nullopt);
+    EXPECT_EQ(files.readText("/"), std::nullopt);
+}
+
+TEST_F(SystemFileManagerTest, ANamedPipeHoldsNothingUp) {
+    ASSERT_EQ(::mkfifo((folder.path() + "/pipe").c_str(), 0600), 0);
+    EXPECT_EQ(files.readText("/pipe"), "");
+    EXPECT_FALSE(files.createFile("/pipe"));
+}
+
+TEST_F(SystemFileManagerTest, WritesAllOrNothingAndKeepsTheMode) {
+    EXPECT_TRUE(files.writeText("/new", "text"));
+    EXPECT_EQ(modeOf(folder.path() + "/new"), 0644U);
+    ASSERT_EQ(::chmod((folder.path() + "/new").c_str(), 0600), 0);
+    EXPECT_TRUE(files.writeText("/new", "other"));
+    EXPECT_EQ(folder.content("new"), "other");
+    EXPECT_EQ(modeOf(folder.path() + "/new"), 0600U);
+    // A folder stands in the way of the rename: no scrap of the attempt stays.
+    ASSERT_TRUE(files.createDirectory("/taken/in"));
+    EXPECT_FALSE(files.writeText("/taken", "text"));
+    EXPECT_EQ(files.list("/")->size(), 2U);
+    EXPECT_FALSE(files.writeText("/none/file", "text"));
+}
+
+TEST_F(SystemFileManagerTest, CreatesAnEmptyFileOrEmptiesIt) {
+    folder.put("full", "text");
+    EXPECT_TRUE(files.createFile("/full"));
+    EXPECT_EQ(folder.content("full"), "");
+    EXPECT_TRUE(files.createFile("/new"));
+    EXPECT_FALSE(files.createFile("/none/file"));
+}
+
+TEST_F(SystemFileManagerTest, ListsNamesOfEveryKind) {
+    folder.put("a b.zip", "");
+    folder.put(".hidden", "");
+    folder.put("sub/inner", "");
+    auto names = files.list("/").value();
+    std::sort(names.begin(), names.end());
+    EXPECT_EQ(names, (std::vector<std::string>{".hidden", "a b.zip", "sub"}));
+    EXPECT_EQ(files.list("/none"), std::nullopt);
+    EXPECT_EQ(files.list("/sub/inner"), std::nullopt);
+}
+
+TEST_F(SystemFileManagerTest, AsksSizesAndAnswersZeroWhereItCannot) {
+    folder.put("file", "12345");
+    EXPECT_EQ(files.fileSize("/file"), 5U);
+    EXPECT_EQ(files.fileSize("/none"), 0U);
+    EXPECT_TRUE(files.changeTime("/file").has_value());
+    EXPECT_FALSE(files.changeTime("/none").has_value());
+    EXPECT_GT(files.fileSystemSize("/"), files.fileSystemFreeSize("/"));
+    EXPECT_GT(files.fileSystemFreeSize("/"), 0);
+    EXPECT_EQ(files.fileSystemSize("/none"), 0);
+}
+
+}  // namespace
+}  // namespace tarnwick

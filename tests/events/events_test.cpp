@@ -1,0 +1,115 @@
+#include "support/Events.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "cli/Commands.h"
+#include "cli/Words.h"
+#include "support/Operations.h"
+
+namespace tarnwick {
+namespace {
+
+using testing::Entries;
+using testing::Operations;
+
+std::size_t placeIn(const std::vector<std::string>& words, const std::string& word) {
+    return static_cast<std::size_t>(std::find(words.begin(), words.end(), word) - words.begin());
+}
+
+// Asks, forgets the question and presses the button.
+void answer(Operations& on, void (OptionsOperations::*question)(), std::size_t button) {
+    (on.options.*question)();
+    on.diary.entries.clear();
+    on.options.alertViewClickedButtonAtIndex(on.feedback.lastAlert, static_cast<int>(button));
+}
+
+void restore(Operations& on, const std::string& target) {
+    if (target != "all") {
+        restoreActions(on.catalogue)[placeIn(targetWords(on.catalogue), target)].run(on.restore);
+        return;
+    }
+    on.restore.restoreAllInOne();
+    on.diary.entries.clear();
+    on.restore.alertViewClickedButtonAtIndex(on.feedback.lastAlert, 1);
+}
+
+void recreateFolders(Operations& on, const std::string& name) {
+    answer(on, &OptionsOperations::recreateApplicationFolders, name.empty() ? 1 : 2);
+    if (name.empty())
+        return;
+    on.diary.entries.clear();
+    on.options.alertViewClickedButtonAtIndex(on.feedback.lastAlert,
+                                             static_cast<int>(placeIn(folderWords(), name)) + 1);
+}
+
+void ask(Operations& on) {
+    on.options.recreateApplicationFolders();
+    on.options.alertViewClickedButtonAtIndex(on.feedback.lastAlert, 2);
+    on.options.removeSafeguard();
+    on.options.respring();
+    on.options.reboot();
+    on.options.removeSourcesList();
+    on.options.backupSize();
+    on.files.listing = {"Notes.zip", "read me.txt", "a.zip.zip", ".zip", "x.zi.zipp"};
+    on.restore.restoreAllInOne();
+}
+
+void perform(Operations& on, const std::string& verb, const std::string& word) {
+    if (verb == "save")
+        backupActions(on.catalogue)[placeIn(targetWords(on.catalogue), word)].run(on.backup);
+    else if (verb == "restore")
+        restore(on, word);
+    else if (verb == "size")
+        answer(on, &OptionsOperations::backupSize, placeIn(itemWords(on.catalogue), word) + 1);
+    else if (verb == "folders")
+        recreateFolders(on, word);
+    else if (verb == "remove" && word == "backups")
+        answer(on, &OptionsOperations::removeSafeguard, 1);
+    else if (verb == "remove")
+        answer(on, &OptionsOperations::removeSourcesList, 1);
+    else if (verb == "respring")
+        answer(on, &OptionsOperations::respring, 1);
+    else if (verb == "reboot")
+        answer(on, &OptionsOperations::reboot, 1);
+    else if (verb == "questions")
+        ask(on);
+    else
+        ADD_FAILURE() << "unknown verb " << verb;
+}
+
+// "restore notes, nothing saved": which files are there follows from the verb and the words after
+// the comma.
+void setScene(Operations& on, const std::string& verb, const std::string& exception) {
+    on.queues.mainIsFaster = true;
+    if ((verb == "restore" && exception.empty()) || exception == "saved")
+        on.putEveryArchive();
+    if (exception.empty()) {
+        on.files.texts["/etc/apt/sources.list.d/TWKSources.list"] = "deb";
+        on.files.texts
+            ["/var/mobile/Library/Preferences/Tarnwick/CydiaPackages/installed-packages.txt"] = "";
+    }
+    on.runner.act = [&on, exception](const std::string& line) {
+        if (line.starts_with("zip -r ") && exception.empty())
+            on.files.texts[line.substr(7, line.find(' ', 7) - 7)] = "zip";
+    };
+}
+
+TEST(Events, EveryOperationDoesWhatTheTableSays) {
+    const auto table = testing::literalEvents();
+    ASSERT_EQ(table.size(), 84U);
+    for (const auto& [scene, events] : table) {
+        const std::string phrase = scene.substr(0, scene.find(','));
+        const std::string exception = scene == phrase ? "" : scene.substr(phrase.size() + 2);
+        const std::string verb = phrase.substr(0, phrase.find(' '));
+        Operations on;
+        setScene(on, verb, exception);
+        perform(on, verb, phrase == verb ? "" : phrase.substr(verb.size() + 1));
+        on.queues.stepGlobal();
+        EXPECT_EQ(on.diary.entries, events) << scene;
+    }
+}
+
+}  // namespace
+}  // namespace tarnwick

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/CommandLine.h"
+#include "support/Diary.h"
+#include "support/TemporaryFolder.h"
+
+namespace tarnwick::testing {
+
+// The command on recording seams, with files for its two outputs and no terminal.
+class CommandLineRun {
+public:
+    CommandLineRun();
+    CommandLineRun(const CommandLineRun&) = delete;
+    CommandLineRun& operator=(const CommandLineRun&) = delete;
+    ~CommandLineRun();
+
+    // Runs the words, split at blanks. The outputs hold what this call wrote.
+    int operator()(const std::string& words);
+
+    std::string results() const;
+    std::string problems() const;
+
+    Diary diary;
+    RecordingRunner runner{diary};
+    RecordingFileManager files{diary};
+    TemporaryFolder folder;
+    bool isRoot = true;
+    std::string lockPath = folder.path() + "/lock";
+    // How supervised work ends; by default it runs in place.
+    SupervisedRun::End end = SupervisedRun::End::Finished;
+
+private:
+    int input_;
+    int results_;
+    int problems_;
+};
+
+}  // namespace tarnwick::testing
