@@ -31,16 +31,20 @@ std::string asUtf8(const std::string& text) {
         return text;
     std::string mended;
     for (const char character : text)
-        mended +=
-            static_cast<unsigned char>(character) < 0x80 ? std::string(1, character) : "\uFFFD";
+        if (static_cast<unsigned char>(character) < 0x80)
+            mended += character;
+        else
+            mended += "\uFFFD";
     return mended;
 }
 
 std::string quoted(const std::string& text) {
-    std::string result = "\"";
+    std::string result;
+    result += '"';
     for (const char character : asUtf8(text))
         result += escaped(character);
-    return result + "\"";
+    result += '"';
+    return result;
 }
 
 std::string asJson(const JsonValue& value) {
@@ -53,9 +57,14 @@ std::string asJson(const JsonValue& value) {
 
 std::string jsonObject(const JsonFields& fields) {
     std::string object;
-    for (const auto& [name, value] : fields)
-        object += (object.empty() ? "{" : ",") + quoted(name) + ":" + asJson(value);
-    return object + "}";
+    for (const auto& [name, value] : fields) {
+        object += object.empty() ? '{' : ',';
+        object += quoted(name);
+        object += ':';
+        object += asJson(value);
+    }
+    object += '}';
+    return object;
 }
 
 }  // namespace tarnwick

@@ -1,0 +1,66 @@
+# Sourced by ./run and ./test: installs what is missing, builds. Needs nothing but a Debian and bash.
+# The caller has set `repository` to the top of the checkout.
+
+# The packages that the list names for a purpose: what `run` needs, `test` needs as well.
+packages_for() {
+    local purpose=$1 package needed_for
+    while read -r package needed_for _; do
+        case $package in '' | '#'*) continue ;; esac
+        if [ "$needed_for" = run ] || [ "$needed_for" = "$purpose" ]; then
+            echo "$package"
+        fi
+    done <"$repository/packages.txt"
+}
+
+missing_packages() {
+    local package
+    for package in $(packages_for "$1"); do
+        [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" = installed ] ||
+            echo "$package"
+    done
+}
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        echo "These packages are missing, and there is neither root nor sudo to install them: $missing" >&2
+        exit 1
+    fi
+}
+
+package_lists_are_there() {
+    apt-cache show "$1" >/dev/null 2>&1
+}
+
+install_missing() {
+    local missing package
+    missing=$(missing_packages "$1" | tr '\n' ' ')
+    [ -n "$missing" ] || return 0
+    echo "Installing: $missing" >&2
+    for package in $missing; do
+        package_lists_are_there "$package" && continue
+        as_root apt-get update -qq
+        break
+    done
+    # The names are to be split.
+    # shellcheck disable=SC2086
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing >&2
+}
+
+# Configures a preset once and builds it; quiet unless it fails.
+build() {
+    local preset=$1 log
+    log=$repository/build/$preset.log
+    mkdir -p "$repository/build"
+    if {
+        [ -f "$repository/build/$preset/build.ninja" ] || cmake -S "$repository" --preset "$preset"
+        cmake --build "$repository/build/$preset"
+    } >"$log" 2>&1; then
+        return 0
+    fi
+    cat "$log" >&2
+    exit 1
+}
