@@ -1,0 +1,7 @@
+CREATE TABLE handle (ROWID INTEGER PRIMARY KEY, id TEXT UNIQUE NOT NULL, service TEXT NOT NULL);
+CREATE TABLE chat (ROWID INTEGER PRIMARY KEY, guid TEXT UNIQUE NOT NULL, display_name TEXT);
+CREATE TABLE message (
+    ROWID INTEGER PRIMARY KEY, handle_id INTEGER REFERENCES handle, text TEXT, date INTEGER,
+    is_from_me INTEGER DEFAULT 0, is_read INTEGER DEFAULT 0);
+CREATE TABLE chat_message_join (chat_id INTEGER REFERENCES chat, message_id INTEGER REFERENCES message);
+CREATE INDEX message_date ON message (date);

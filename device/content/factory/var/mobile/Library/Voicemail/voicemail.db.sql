@@ -1,0 +1,1 @@
+CREATE TABLE voicemail (ROWID INTEGER PRIMARY KEY, sender TEXT, date INTEGER, duration INTEGER, flags INTEGER);

@@ -1,0 +1,1 @@
+PS1='device:\w \u\$ '

@@ -1,0 +1,28 @@
+# shellcheck shell=bash
+# How root on a device is got: root is taken as it is; an ordinary user gets a user namespace in which the user is root
+# and the other users of the device are ids that /etc/subuid and /etc/subgid lend, so that chown is real there too.
+
+# Prints the options for unshare, one a line; none for root.
+user_namespace() {
+    ((EUID != 0)) || return 0
+    command -v newuidmap >/dev/null ||
+        fail "an ordinary user needs newuidmap to run a device: install the package uidmap"
+    local file
+    for file in /etc/subuid /etc/subgid; do
+        grep -qsE "^($EUID|$(id -un)):" "$file" ||
+            fail "an ordinary user needs an entry in $file to run a device: see usermod --add-subuids, --add-subgids"
+    done
+    printf '%s\n' --user --map-root-user --map-auto
+}
+
+# Runs a command that may read, give away and delete what belongs to the device's users.
+as_device_root() {
+    local options
+    options=$(user_namespace)
+    if [[ -z $options ]]; then
+        "$@"
+    else
+        # shellcheck disable=SC2086  # words, not one word
+        unshare $options -- "$@"
+    fi
+}

@@ -1,0 +1,99 @@
+# shellcheck shell=bash
+# Shared by the tests of the device: a place to work in, facts that are checked and printed, and waiting.
+
+set -euo pipefail
+
+repository=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd -P)
+workspace=$(mktemp -d)
+phone=$workspace/phone
+host_processes=()
+export DEVICE_BUILD=${DEVICE_BUILD:-$repository/build/release}
+
+device() { "$repository/device/device" "$@"; }
+on_phone() { device boot "$phone" "$@"; }
+
+clean_up() {
+    local marker
+    ((${#host_processes[@]} == 0)) || kill -9 "${host_processes[@]}" 2>/dev/null || true
+    for marker in "$workspace"/*/device; do
+        [[ ! -f $marker ]] || device delete "${marker%/device}"
+    done
+    rm -rf "$workspace"
+}
+trap clean_up EXIT
+
+# Where the machine cannot run a device at all, there is nothing to test.
+skip_without_namespaces() {
+    local user_namespace=()
+    if ((EUID != 0)); then
+        command -v newuidmap >/dev/null || skip "newuidmap is missing, from the package uidmap"
+        user_namespace=(--user --map-root-user --map-auto)
+    fi
+    unshare "${user_namespace[@]}" --mount --pid --fork true 2>/dev/null ||
+        skip "this machine gives this user no namespaces, or lends no ids in /etc/subuid"
+}
+
+skip() {
+    printf 'skipped: %s\n' "$1"
+    exit 77
+}
+
+# check FACT COMMAND...: the fact holds when the command succeeds.
+check() {
+    local fact=$1 output
+    shift
+    if output=$("$@" 2>&1); then
+        printf 'ok: %s\n' "$fact"
+    else
+        printf 'not ok: %s\n  %s\n%s\n' "$fact" "$*" "$output"
+        exit 1
+    fi
+}
+
+refuse() {
+    local fact=$1 output
+    shift
+    if output=$("$@" 2>&1); then
+        printf 'not ok: %s\n  %s succeeded\n%s\n' "$fact" "$*" "$output"
+        exit 1
+    fi
+    printf 'ok: %s\n' "$fact"
+}
+
+# same FACT EXPECTED ACTUAL
+same() {
+    if [[ $2 == "$3" ]]; then
+        printf 'ok: %s\n' "$1"
+    else
+        printf 'not ok: %s\n' "$1"
+        diff <(printf '%s\n' "$2") <(printf '%s\n' "$3") || true
+        exit 1
+    fi
+}
+
+status_of() {
+    local status=0
+    "$@" >/dev/null 2>&1 || status=$?
+    printf '%s\n' "$status"
+}
+
+# Ten seconds are far more than anything here takes.
+wait_until() {
+    local attempt
+    for ((attempt = 0; attempt < 500; attempt++)); do
+        ! "$@" || return 0
+        sleep 0.02
+    done
+    printf 'not ok: never came true: %s\n' "$*"
+    exit 1
+}
+
+# A process of the host that a careless killall on the device would hit.
+start_host_process() {
+    cp /usr/bin/sleep "$workspace/$1"
+    "$workspace/$1" 600 &
+    host_processes+=("$!")
+    disown "$!"
+}
+
+skip_without_namespaces

@@ -1,0 +1,83 @@
+#!/usr/bin/env bash
+# What a program on a device sees of its caller: the sockets of the desktop and a few settings, and nothing else.
+# shellcheck source=tests/device/device_lib.sh
+source "$(dirname "${BASH_SOURCE[0]}")/device_lib.sh"
+
+runtime=$workspace/runtime
+display=$((20000 + $$ % 10000))
+x_socket=/tmp/.X11-unix/X$display
+
+# Answers every connection with the name of the socket that it came through.
+listen() {
+    perl -MIO::Socket::UNIX -MIO::Select -e '
+        my (%name, $select); $select = IO::Select->new;
+        for my $path (@ARGV) {
+            my $socket = IO::Socket::UNIX->new(Local => $path, Listen => 5) or die "$path: $!";
+            $name{$socket} = $path; $select->add($socket);
+        }
+        while (my @ready = $select->can_read) {
+            for (@ready) { my $peer = $_->accept; print {$peer} $name{$_} =~ s|.*/||r, "\n" }
+        }' "$@" &
+    host_processes+=("$!")
+    disown "$!"
+    for path in "$@"; do
+        wait_until test -S "$path"
+    done
+}
+
+ask() {
+    "${caller[@]}" "$repository/device/device" boot "$phone" perl -MIO::Socket::UNIX -e '
+        my $socket = IO::Socket::UNIX->new(Peer => $ARGV[0]) or die "$ARGV[0]: $!"; print readline $socket' "$1"
+}
+
+names_of_environment() {
+    "$@" "$repository/device/device" boot "$phone" env | cut -d= -f1 | sort | xargs
+}
+
+start_desktop() {
+    mkdir -p "$runtime/at-spi"
+    if mkdir -m 1777 /tmp/.X11-unix 2>/dev/null; then made_x_folder=yes; fi
+    echo cookie >"$workspace/authority"
+    chmod 600 "$workspace/authority"
+    listen "$x_socket" "$runtime/wayland-7" "$runtime/session" "$runtime/at-spi/bus_7" "$runtime/reader"
+}
+
+stop_desktop() {
+    rm -f "$x_socket"
+    [[ -z ${made_x_folder-} ]] || rmdir /tmp/.X11-unix 2>/dev/null || true
+    clean_up
+}
+
+test_sockets() {
+    same "the display answers" "X$display" "$(ask "$x_socket")"
+    same "Wayland's display answers" wayland-7 "$(ask /run/user/0/wayland-0)"
+    same "the session bus answers" session "$(ask /run/user/0/bus)"
+    same "the accessibility bus answers where the session bus says it is" bus_7 "$(ask "$runtime/at-spi/bus_7")"
+    same "the accessibility bus of the environment answers" reader "$(ask /run/user/0/accessibility-bus)"
+    # shellcheck disable=SC2016
+    same "the environment names them" \
+        ":$display cookie wayland-0 unix:path=/run/user/0/bus unix:path=/run/user/0/accessibility-bus" \
+        "$("${caller[@]}" "$repository/device/device" boot "$phone" sh -c 'echo $DISPLAY $(cat $XAUTHORITY) $WAYLAND_DISPLAY \
+            $DBUS_SESSION_BUS_ADDRESS $AT_SPI_BUS_ADDRESS')"
+    # shellcheck disable=SC2016
+    same "another user can read the display's key too, and only he" "cookie 600 700" \
+        "$("${caller[@]}" "$repository/device/device" boot "$phone" --user mobile \
+            sh -c 'echo $(cat $XAUTHORITY) $(stat --format %a $XAUTHORITY $XDG_RUNTIME_DIR)')"
+    refuse "the device cannot take a socket away" "${caller[@]}" "$repository/device/device" boot "$phone" rm "$x_socket"
+}
+
+[[ ! -e $x_socket ]] || skip "display $display is taken"
+trap stop_desktop EXIT
+start_desktop
+device new "$phone"
+caller=(env XDG_RUNTIME_DIR="$runtime" DISPLAY=":$display.0" XAUTHORITY="$workspace/authority" WAYLAND_DISPLAY=wayland-7
+    DBUS_SESSION_BUS_ADDRESS="unix:abstract=/gone;unix:path=$runtime/session,guid=0" NO_COLOR=1 SECRET=1
+    AT_SPI_BUS_ADDRESS="unix:path=$runtime/reader")
+plain="HOME LANG LOGNAME PATH SHELL TERM USER XDG_RUNTIME_DIR"
+test_sockets
+same "no other variable of the caller's comes along" \
+    "AT_SPI_BUS_ADDRESS DBUS_SESSION_BUS_ADDRESS DISPLAY HOME LANG LOGNAME NO_COLOR PATH SHELL TERM USER WAYLAND_DISPLAY XAUTHORITY XDG_RUNTIME_DIR" \
+    "$(names_of_environment "${caller[@]}")"
+same "a caller without a desktop passes none on" "$plain" "$(names_of_environment env -i PATH="$PATH")"
+same "nor one whose desktop is gone" "$plain" "$(names_of_environment env -i PATH="$PATH" DISPLAY=:19999 \
+    WAYLAND_DISPLAY=gone XDG_RUNTIME_DIR=/gone DBUS_SESSION_BUS_ADDRESS=unix:abstract=/gone)"

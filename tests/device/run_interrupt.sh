@@ -1,0 +1,37 @@
+#!/usr/bin/env bash
+# A large save is interrupted, and a second run meets one under way.
+# shellcheck source=tests/device/run_lib.sh
+source "$(dirname "${BASH_SOURCE[0]}")/run_lib.sh"
+
+# Runs the script on the phone, with the save's number in $save, once zip is at work on the pictures.
+during_save() {
+    on_phone bash -c '
+        tarnwick save all >/dev/null 2>&1 & save=$!
+        for ((attempt = 0; attempt < 2000; attempt++)); do
+            ! { killall -q -0 zip && test -d "$1/DCIM"; } || break
+            sleep 0.01
+        done
+        killall -q -0 zip || echo "zip never came"
+        '"$1"'' - "$library"
+}
+
+pictures() {
+    on_phone sha256sum "$library/DCIM.zip"
+}
+
+device new "$phone" --photos 30
+on_phone tarnwick save photos >/dev/null
+before=$(pictures)
+for signal in INT TERM HUP; do
+    same "$signal: the save ends as interrupted, with all its processes" "status 130" \
+        "$(during_save "kill -$signal "'$save; wait $save; echo "status $?"; killall -q -0 zip cp tarnwick && echo "one lives on"; true')"
+    same "$signal: no staging copy is left" "" "$(not_archives)"
+    same "$signal: the older archive is untouched" "$before" "$(pictures)"
+done
+
+same "a second run says so, looking goes on" "tarnwick: another run is under way
+second 3
+list 0
+status 0" "$(during_save 'tarnwick save notes; echo "second $?"
+    tarnwick list >/dev/null; echo "list $?"; wait $save; echo "status $?"' 2>&1)"
+same "the first one went on to its end" 12 "$(good_archives)"

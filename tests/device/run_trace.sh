@@ -1,0 +1,64 @@
+#!/usr/bin/env bash
+# Each verb starts the lines and makes the changes of the table, and no other; --dry-run tells them beforehand.
+# shellcheck source=tests/device/run_lib.sh
+source "$(dirname "${BASH_SOURCE[0]}")/run_lib.sh"
+
+table=$repository/tests/events/events.txt
+
+scenes() {
+    sed -n 's/^\[\(.*\)\]$/\1/p' "$table" | grep -v ',' | grep -vx questions
+}
+
+# What the table says that the scene starts and changes.
+told() {
+    sed -n "/^\[$1\]\$/,/^\$/p" "$table" | grep -E '^(run|remove|create folder): '
+}
+
+# From a trace of system calls: each shell that is started with a line, and each change that a process makes which
+# started no other program. Removing tries the path as a file first and then as a folder.
+changes_in() {
+    awk '
+        function quoted(text) { sub(/^[^"]*"/, "", text); sub(/".*/, "", text); return text }
+        NR == FNR { if (/execve\(/ && !/\/tarnwick"/) started[$1] = 1; next }
+        /execve\("\/bin\/sh", \["sh", "-c", "/ { line = $0; sub(/.*"-c", "/, "", line); sub(/"\].*/, "", line)
+            print "run: " line; next }
+        started[$1] || !/\) += 0$/ { next }
+        /(rmdir|unlink)\("\// { print "remove: " quoted($0) }
+        /mkdir\("\// { print "create folder: " quoted($0) }
+    ' "$1" "$1"
+}
+
+trace() {
+    on_phone bash -c 'strace -f -qq -s 4096 -e trace=execve,unlink,rmdir,mkdir -o /var/root/trace \
+        tarnwick "$@" --yes --then nothing >/dev/null 2>&1; cat /var/root/trace' - "$@" >"$workspace/trace"
+    changes_in "$workspace/trace"
+}
+
+prepare_for() {
+    case $1 in
+        restore\ * | remove\ sources-list)
+            on_phone bash -c 'test -e "$1/Voicemail.zip" || tarnwick save all packages >/dev/null
+                echo "deb" >/etc/apt/sources.list.d/TWKSources.list' - "$library" ;;
+        size\ *) on_phone tarnwick remove backups --yes >/dev/null ;;
+        folders*) on_phone rm -rf /var/mobile/Library/Preferences/Tarnwick ;;
+    esac
+}
+
+# Making one folder makes those between: the trace shows them too.
+as_made() {
+    case $1 in
+        folders\ Tarnwick | folders) cat ;;
+        folders*) printf 'create folder: %s\n' /var/mobile/Library/Preferences/Tarnwick; cat ;;
+        *) cat ;;
+    esac
+}
+
+device new "$phone"
+on_phone tarnwick folders >/dev/null
+while read -r -a words <&3; do
+    verb="${words[*]}"
+    prepare_for "$verb"
+    same "$verb: the rehearsal tells the table's lines" "$(told "$verb")" "$(on_phone tarnwick "${words[@]}" --dry-run)"
+    [[ $verb != reboot ]] || continue
+    same "$verb: the run starts them and no other" "$(told "$verb" | as_made "$verb")" "$(trace "${words[@]}")"
+done 3< <(scenes)
