@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Sourced by ./run and ./test: installs what is missing, builds. Needs nothing but a Debian and bash.
 # The caller has set `repository` to the top of the checkout.
 

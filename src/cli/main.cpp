@@ -25,7 +25,7 @@ int main(int count, char** values) {
         .runner = runner,
         .files = files,
         .isRoot = ::geteuid() == 0,
-        .lockPath = "/var/run/tarnwick.lock",
+        .lockPath = "/var/lib/tarnwick.lock",
         .supervise = supervise,
     };
     return runCommandLine(arguments, world);
