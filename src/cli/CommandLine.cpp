@@ -77,11 +77,12 @@ ExitStatus runCommandLine(const Arguments& arguments, const World& world) {
     if (arguments.fault)
         return wrongUsage(session, *arguments.fault);
     if (arguments.help) {
-        session.output.result(helpText(session.catalogue), {});
+        const std::string help = helpText(session.catalogue);
+        session.output.result(help, {{"help", help}});
         return AllDone;
     }
     if (arguments.version) {
-        session.output.result("tarnwick " TARNWICK_VERSION, {});
+        session.output.result("tarnwick " TARNWICK_VERSION, {{"version", TARNWICK_VERSION}});
         return AllDone;
     }
     if (arguments.words.empty())

@@ -56,9 +56,10 @@ std::string asJson(const JsonValue& value) {
 }  // namespace
 
 std::string jsonObject(const JsonFields& fields) {
-    std::string object;
+    std::string object = "{";
     for (const auto& [name, value] : fields) {
-        object += object.empty() ? '{' : ',';
+        if (object.size() > 1)
+            object += ',';
         object += quoted(name);
         object += ':';
         object += asJson(value);

@@ -2,9 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "cli/NearestWord.h"
 #include "cli/ProgressLine.h"
-#include "cli/Words.h"
 
 namespace tarnwick {
 namespace {
@@ -30,30 +28,6 @@ TEST(Arguments, FaultsNameTheNearestWord) {
     for (const auto& [typed, fault] : rows)
         EXPECT_EQ(parseArguments(typed).fault, fault);
     EXPECT_TRUE(parseArguments({"--then"}).fault.has_value());
-}
-
-TEST(NearestWord, TakesABeginningOrTheFewestChanges) {
-    const std::vector<std::string> words = {"notes", "photos", "safari", "sources"};
-    for (const auto& [typed, nearest] :
-         std::vector<std::pair<std::string, std::string>>{{"note", "notes"},
-                                                          {"ntoes", "notes"},
-                                                          {"Photos", "photos"},
-                                                          {"safary", "safari"},
-                                                          {"source", "sources"},
-                                                          {"s", "safari"},
-                                                          {"", "notes"},
-                                                          {std::string(100000, 's'), "sources"}})
-        EXPECT_EQ(nearestWord(typed, words), nearest) << typed.substr(0, 20);
-}
-
-TEST(Words, ItemsGoByTheirKeysInKebabCase) {
-    const ItemCatalogue catalogue;
-    EXPECT_EQ(itemWords(catalogue),
-              (std::vector<std::string>{"tweaks-prefs", "accounts", "calendar", "call-history",
-                                        "contacts", "messages", "notes", "photos", "safari",
-                                        "springboard", "voicemails"}));
-    EXPECT_EQ(itemOfWord(catalogue, "call-history")->key, "CallHistory");
-    EXPECT_EQ(itemOfWord(catalogue, "CallHistory"), nullptr);
 }
 
 TEST(ProgressLine, ShowsItemPlaceAndTimeWithinTheWidth) {

@@ -3,26 +3,14 @@
 #include "cli/CommandLine.h"
 #include "cli/CommandTable.h"
 #include "cli/RunLock.h"
-#include "core/SafeguardPaths.h"
 #include "support/CommandLineRun.h"
 #include "support/Events.h"
+#include "support/Operations.h"
 
-namespace tarnwick {
+namespace tarnwick::testing {
 namespace {
 
-using testing::CommandLineRun;
-using testing::Entries;
-
 const std::string root = "/var/mobile/Library/Preferences/Tarnwick";
-const std::string library = root + "/TarnwickLibrary/";
-
-void putEveryArchive(CommandLineRun& tarnwick) {
-    for (const std::string_view folder : paths::safeguardFolders)
-        tarnwick.files.texts.emplace(folder, "");
-    for (const BackupItem& item : ItemCatalogue())
-        for (const std::string& path : item.archivePaths)
-            tarnwick.files.texts[path] = "zip";
-}
 
 TEST(CommandLine, WrongUsageNamesTheNearestWordAndDoesNothing) {
     const std::pair<const char*, const char*> rows[] = {
@@ -47,15 +35,6 @@ TEST(CommandLine, WrongUsageNamesTheNearestWordAndDoesNothing) {
                   "tarnwick: " + std::string(fault) + "\nTry \"tarnwick --help\".\n");
         EXPECT_TRUE(tarnwick.diary.entries.empty()) << words;
     }
-}
-
-TEST(CommandLine, EveryCommandStandsInTheHelp) {
-    CommandLineRun tarnwick;
-    EXPECT_EQ(tarnwick("--help"), AllDone);
-    for (const Command& command : commandTable(ItemCatalogue()))
-        EXPECT_NE(tarnwick.results().find("\n  " + command.name), std::string::npos)
-            << command.name;
-    EXPECT_EQ(tarnwick("--version"), AllDone);
 }
 
 TEST(CommandLine, WhatChangesTheDeviceNeedsRootAndNoOtherRun) {
@@ -83,7 +62,7 @@ TEST(CommandLine, SavesTheNamedTargetsInTheirOrder) {
     CommandLineRun tarnwick;
     tarnwick.runner.act = [&](const std::string& line) {
         if (line.starts_with("zip"))
-            tarnwick.files.texts[library + "Notes.zip"] = "zip";
+            tarnwick.folder.put(library + "Notes.zip", "zip");
     };
     EXPECT_EQ(tarnwick("save packages notes calendar"), BackupMissing);
     EXPECT_EQ(tarnwick.results(),
@@ -100,16 +79,16 @@ TEST(CommandLine, SavesTheNamedTargetsInTheirOrder) {
 }
 
 TEST(CommandLine, ARehearsalPrintsWhatTheRunDoesAndDoesNothing) {
-    for (const auto& [verb, events] : testing::literalEvents()) {
+    for (const auto& [verb, events] : literalEvents()) {
         if (verb.find(',') != std::string::npos || verb == "questions")
             continue;
         CommandLineRun tarnwick;
         if (!verb.starts_with("size"))
-            putEveryArchive(tarnwick);
-        tarnwick.files.texts[root + "/CydiaPackages/installed-packages.txt"] = "";
-        tarnwick.files.texts["/etc/apt/sources.list.d/TWKSources.list"] = "";
+            tarnwick.folder.putEveryArchive();
+        tarnwick.folder.put(savedPackages, "");
+        tarnwick.folder.put(ownList, "deb");
         EXPECT_EQ(tarnwick(verb + " --dry-run"), AllDone) << verb;
-        const Entries changes = testing::changesIn(events);
+        const Entries changes = changesIn(events);
         std::string expected;
         for (const std::string& change : changes)
             expected += change + "\n";
@@ -122,11 +101,11 @@ TEST(CommandLine, ARehearsalPrintsWhatTheRunDoesAndDoesNothing) {
 
 TEST(CommandLine, ARehearsalTellsCopiesAndWrites) {
     CommandLineRun tarnwick;
-    putEveryArchive(tarnwick);
+    tarnwick.folder.putEveryArchive();
     EXPECT_EQ(tarnwick("save sources --dry-run --json"), AllDone);
     EXPECT_EQ(tarnwick.results(), "{\"copy\":\"/etc/apt/sources.list.d/cydia.list\",\"to\":\"" +
                                       root + "/CydiaSources/cydia.list\"}\n");
-    tarnwick.files.texts["/var/mobile/Library/Caches/com.saurik.Cydia/sources.list"] = "deb";
+    tarnwick.folder.put(cache, "deb");
     EXPECT_EQ(tarnwick("restore sources accounts --dry-run --then reboot"), AllDone);
     EXPECT_TRUE(tarnwick.results().starts_with(
         "create file: /etc/apt/sources.list.d/TWKSources.list\n"
@@ -150,7 +129,7 @@ TEST(CommandLine, ConfirmationsAreRefusedWithoutATerminal) {
 TEST(CommandLine, TheOfferIsClosedUnlessThenSaysOtherwise) {
     const auto lastChange = [](const std::string& words) {
         CommandLineRun tarnwick;
-        putEveryArchive(tarnwick);
+        tarnwick.folder.putEveryArchive();
         EXPECT_EQ(tarnwick(words), AllDone) << words;
         return tarnwick.diary.changes().back();
     };
@@ -167,7 +146,7 @@ TEST(CommandLine, TheOfferIsClosedUnlessThenSaysOtherwise) {
 
 TEST(CommandLine, AMissingBackupIsAProblemEvenIfTheRestIsRestored) {
     CommandLineRun tarnwick;
-    tarnwick.files.texts[library + "Notes.zip"] = "zip";
+    tarnwick.folder.put(library + "Notes.zip", "zip");
     EXPECT_EQ(tarnwick("restore notes packages"), BackupMissing);
     EXPECT_EQ(tarnwick.results(), "Notes Restoration: Restoration done !\n");
     EXPECT_EQ(tarnwick.problems(),
@@ -194,7 +173,7 @@ TEST(CommandLine, AnInterruptedRunTakesItsStagingCopiesAway) {
 
 TEST(CommandLine, CheckNamesEachArchive) {
     CommandLineRun tarnwick;
-    tarnwick.files.texts[library + "Notes.zip"] = "zip";
+    tarnwick.folder.put(library + "Notes.zip", "zip");
     EXPECT_EQ(tarnwick("check"), AllDone);
     EXPECT_EQ(tarnwick.results(), "Notes.zip: good\n");
     EXPECT_EQ(tarnwick.diary.changes(),
@@ -209,39 +188,30 @@ TEST(CommandLine, ListShowsWhatIsThere) {
     CommandLineRun tarnwick;
     EXPECT_EQ(tarnwick("list"), AllDone);
     EXPECT_EQ(tarnwick.results(), "The safeguard folder is empty.\n");
-    tarnwick.files.listing = {"b\033[2J.zip", "a.zip"};
+    tarnwick.folder.put(library + "b\033[2J.zip", "");
+    tarnwick.folder.put(library + "a.zip", std::string(1024, 'x'));
     EXPECT_EQ(tarnwick("list"), AllDone);
-    EXPECT_NE(tarnwick.results().find("0.00 B  TarnwickLibrary/b?[2J.zip\n"), std::string::npos);
-    EXPECT_LT(tarnwick.results().find("a.zip"), tarnwick.results().find("b?"));
-    tarnwick.files.listing.reset();
-    tarnwick.files.texts[root + "/CydiaSources"] = "";
+    EXPECT_NE(tarnwick.results().find("1.00 KB  TarnwickLibrary/a.zip\n"), std::string::npos);
+    EXPECT_TRUE(tarnwick.results().ends_with("0.00 B  TarnwickLibrary/b?[2J.zip\n"));
+    // A file in a folder's place is there but cannot be read as one.
+    tarnwick.folder.put(root + "/CydiaSources", "");
+    EXPECT_EQ(tarnwick("list"), BackupMissing);
     tarnwick.isRoot = false;
     EXPECT_EQ(tarnwick("list"), NotRoot);
 }
 
 TEST(CommandLine, TellsSizesAndStorageInBothForms) {
     CommandLineRun tarnwick;
-    tarnwick.files.total = 68719476736;
-    tarnwick.files.free = 13421772800;
     EXPECT_EQ(tarnwick("storage"), AllDone);
     EXPECT_EQ(tarnwick.results(), "Total: 64.00 GB\nFree: 12.50 GB\n");
     EXPECT_EQ(tarnwick("storage --json"), AllDone);
     EXPECT_EQ(tarnwick.results(), "{\"total\":\"64.00 GB\",\"free\":\"12.50 GB\"}\n");
-    tarnwick.files.texts[library + "SMS.zip"] = std::string(1024, 'x');
+    tarnwick.folder.put(library + "SMS.zip", std::string(1024, 'x'));
     EXPECT_EQ(tarnwick("size messages --json"), AllDone);
     EXPECT_EQ(tarnwick.results(),
               "{\"title\":\"Backup Size\",\"message\":\"The \\\"Messages / iMessages\\\" backup "
               "size is : "
               "1.00 KB\"}\n");
-}
-
-TEST(CommandLine, FoldersGoByTheirNames) {
-    CommandLineRun tarnwick;
-    EXPECT_EQ(tarnwick("folders"), AllDone);
-    EXPECT_EQ(tarnwick.diary.changes().size(), 4U);
-    EXPECT_EQ(tarnwick("folders TarnwickLibrary"), AllDone);
-    EXPECT_EQ(tarnwick.results(), "Create Library Folder: Successful !\n");
-    EXPECT_EQ(tarnwick.diary.changes(), Entries{"create folder: " + root + "/TarnwickLibrary"});
 }
 
 TEST(CommandLine, TheHelpTextsComeInOrder) {
@@ -256,4 +226,4 @@ TEST(CommandLine, TheHelpTextsComeInOrder) {
 }
 
 }  // namespace
-}  // namespace tarnwick
+}  // namespace tarnwick::testing

@@ -4,52 +4,18 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include <csignal>
-
 #include "cli/Json.h"
 #include "cli/ProgressLine.h"
-#include "cli/RunLock.h"
-#include "support/TemporaryFolder.h"
 
 namespace tarnwick {
 namespace {
 
 TEST(Json, WritesOneValidLineWhateverTheTextHolds) {
-    EXPECT_EQ(jsonObject({}), "}");
+    EXPECT_EQ(jsonObject({}), "{}");
     EXPECT_EQ(jsonObject({{"a", "b"}, {"n", std::int64_t{-3}}}), R"({"a":"b","n":-3})");
-    EXPECT_EQ(jsonObject({{"text", "\"\\\n\t\x01\x7F\u00E9"}}),
-              R"({"text":"\"\\\n\u0009\u0001\u007f)"
-              "\u00E9\"}");
-    EXPECT_EQ(jsonObject({{"name",
-                           "a\xFF"
-                           "b"}}),
-              "{\"name\":\"a\uFFFDb\"}");
-}
-
-TEST(Output, GoesOnWhenNobodyReads) {
-    std::signal(SIGPIPE, [](int) {});
-    int ends[2];
-    ASSERT_EQ(::pipe(ends), 0);
-    ::close(ends[0]);
-    Output output({-1, ends[1], -1}, Format::Text, Colour::Plain);
-    output.result("nobody", {});
-    output.problem("closed", {});
-    ::close(ends[1]);
-    std::signal(SIGPIPE, SIG_DFL);
-}
-
-TEST(RunLock, IsHeldByOneAndGoesWithItsHolder) {
-    const testing::TemporaryFolder folder;
-    const std::string path = folder.path() + "/lock";
-    {
-        const RunLock first(path);
-        EXPECT_EQ(first.state(), RunLock::State::Held);
-        EXPECT_EQ(RunLock(path).state(), RunLock::State::TakenByAnother);
-    }
-    EXPECT_EQ(RunLock(path).state(), RunLock::State::Held);
-    EXPECT_EQ(RunLock(folder.path() + "/none/lock").state(), RunLock::State::Unavailable);
-    ASSERT_EQ(::symlink("elsewhere", (folder.path() + "/link").c_str()), 0);
-    EXPECT_EQ(RunLock(folder.path() + "/link").state(), RunLock::State::Unavailable);
+    EXPECT_EQ(jsonObject({{"text", "\"\\\n\t\x01\x7F"}}), R"({"text":"\"\\\n\u0009\u0001\u007f"})");
+    EXPECT_EQ(jsonObject({{"name", "\u00E9"}}), "{\"name\":\"\u00E9\"}");
+    EXPECT_EQ(jsonObject({{"name", "a\xFF-"}}), "{\"name\":\"a\uFFFD-\"}");
 }
 
 // A pseudo terminal stands for the person's: the line is drawn, cut to its width, and taken away.

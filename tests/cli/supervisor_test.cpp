@@ -77,19 +77,6 @@ TEST(Supervisor, AnInterruptEndsTheCommandsAndStartsNoMore) {
     }
 }
 
-TEST(Supervisor, WaitsForACommandThatTidiesUp) {
-    const TemporaryFolder folder;
-    const auto work = [&folder] {
-        const std::string line =
-            "cd " + folder.path() +
-            " && trap 'sleep 0.3; echo tidy > done; exit' TERM && echo up > ready && "
-            "while :; do sleep 0.05; done";
-        return std::system(line.c_str());
-    };
-    EXPECT_EQ(endAfter(SIGINT, work, folder), interrupted);
-    EXPECT_EQ(folder.content("done"), "tidy\n");
-}
-
 TEST(Supervisor, KillsACommandThatWillNotEnd) {
     const TemporaryFolder folder;
     const auto work = [&folder] {
@@ -101,19 +88,6 @@ TEST(Supervisor, KillsACommandThatWillNotEnd) {
     EXPECT_EQ(endAfter(SIGTERM, work, folder), interrupted);
     std::string pid = folder.content("ready");
     EXPECT_FALSE(lives(pid));
-}
-
-TEST(Supervisor, AnInterruptCountsEvenWhereTheCallerIgnoresIt) {
-    // As a shell's background jobs do.
-    const TemporaryFolder folder;
-    const auto work = [&folder] {
-        return std::system(
-            ("cd " + folder.path() + " && echo $$ > ready && exec sleep 1000").c_str());
-    };
-    std::signal(SIGINT, SIG_IGN);
-    EXPECT_EQ(endAfter(SIGINT, work, folder), interrupted);
-    std::signal(SIGINT, SIG_DFL);
-    EXPECT_FALSE(lives(folder.content("ready")));
 }
 
 }  // namespace

@@ -56,14 +56,6 @@ TEST_F(SystemFileManagerTest, CopiesFilesAndFoldersButNeverOntoWhatIsThere) {
     EXPECT_FALSE(files.copy("/none", "/other"));
 }
 
-TEST_F(SystemFileManagerTest, MakesTheFoldersBetween) {
-    EXPECT_TRUE(files.createDirectory("/a/b/c"));
-    EXPECT_TRUE(files.createDirectory("/a/b/c"));
-    folder.put("file", "text");
-    EXPECT_FALSE(files.createDirectory("/file/below"));
-    EXPECT_EQ(folder.content("file"), "text");
-}
-
 TEST_F(SystemFileManagerTest, ReadsWholeValidTextOnly) {
     folder.put("empty", "");
     folder.put("good", "\u00E9\n");
@@ -95,14 +87,6 @@ TEST_F(SystemFileManagerTest, WritesAllOrNothingAndKeepsTheMode) {
     EXPECT_FALSE(files.writeText("/none/file", "text"));
 }
 
-TEST_F(SystemFileManagerTest, CreatesAnEmptyFileOrEmptiesIt) {
-    folder.put("full", "text");
-    EXPECT_TRUE(files.createFile("/full"));
-    EXPECT_EQ(folder.content("full"), "");
-    EXPECT_TRUE(files.createFile("/new"));
-    EXPECT_FALSE(files.createFile("/none/file"));
-}
-
 TEST_F(SystemFileManagerTest, ListsNamesOfEveryKind) {
     folder.put("a b.zip", "");
     folder.put(".hidden", "");
@@ -112,17 +96,6 @@ TEST_F(SystemFileManagerTest, ListsNamesOfEveryKind) {
     EXPECT_EQ(names, (std::vector<std::string>{".hidden", "a b.zip", "sub"}));
     EXPECT_EQ(files.list("/none"), std::nullopt);
     EXPECT_EQ(files.list("/sub/inner"), std::nullopt);
-}
-
-TEST_F(SystemFileManagerTest, AsksSizesAndAnswersZeroWhereItCannot) {
-    folder.put("file", "12345");
-    EXPECT_EQ(files.fileSize("/file"), 5U);
-    EXPECT_EQ(files.fileSize("/none"), 0U);
-    EXPECT_TRUE(files.changeTime("/file").has_value());
-    EXPECT_FALSE(files.changeTime("/none").has_value());
-    EXPECT_GT(files.fileSystemSize("/"), files.fileSystemFreeSize("/"));
-    EXPECT_GT(files.fileSystemFreeSize("/"), 0);
-    EXPECT_EQ(files.fileSystemSize("/none"), 0);
 }
 
 }  // namespace

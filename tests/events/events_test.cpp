@@ -8,11 +8,8 @@
 #include "cli/Words.h"
 #include "support/Operations.h"
 
-namespace tarnwick {
+namespace tarnwick::testing {
 namespace {
-
-using testing::Entries;
-using testing::Operations;
 
 std::size_t placeIn(const std::vector<std::string>& words, const std::string& word) {
     return static_cast<std::size_t>(std::find(words.begin(), words.end(), word) - words.begin());
@@ -52,7 +49,7 @@ void ask(Operations& on) {
     on.options.reboot();
     on.options.removeSourcesList();
     on.options.backupSize();
-    on.files.listing = {"Notes.zip", "read me.txt", "a.zip.zip", ".zip", "x.zi.zipp"};
+    on.folder.put(library + "Notes.zip", "zip");
     on.restore.restoreAllInOne();
 }
 
@@ -84,20 +81,19 @@ void perform(Operations& on, const std::string& verb, const std::string& word) {
 void setScene(Operations& on, const std::string& verb, const std::string& exception) {
     on.queues.mainIsFaster = true;
     if ((verb == "restore" && exception.empty()) || exception == "saved")
-        on.putEveryArchive();
-    if (exception.empty()) {
-        on.files.texts["/etc/apt/sources.list.d/TWKSources.list"] = "deb";
-        on.files.texts
-            ["/var/mobile/Library/Preferences/Tarnwick/CydiaPackages/installed-packages.txt"] = "";
-    }
-    on.runner.act = [&on, exception](const std::string& line) {
-        if (line.starts_with("zip -r ") && exception.empty())
-            on.files.texts[line.substr(7, line.find(' ', 7) - 7)] = "zip";
+        on.folder.putEveryArchive();
+    if (!exception.empty())
+        return;
+    on.folder.put(ownList, "deb");
+    on.folder.put(savedPackages, "");
+    on.runner.act = [&on](const std::string& line) {
+        if (line.starts_with("zip -r "))
+            on.folder.put(line.substr(7, line.find(' ', 7) - 7), "zip");
     };
 }
 
 TEST(Events, EveryOperationDoesWhatTheTableSays) {
-    const auto table = testing::literalEvents();
+    const auto table = literalEvents();
     ASSERT_EQ(table.size(), 84U);
     for (const auto& [scene, events] : table) {
         const std::string phrase = scene.substr(0, scene.find(','));
@@ -112,4 +108,4 @@ TEST(Events, EveryOperationDoesWhatTheTableSays) {
 }
 
 }  // namespace
-}  // namespace tarnwick
+}  // namespace tarnwick::testing

@@ -23,10 +23,10 @@ public:
     std::string results() const;
     std::string problems() const;
 
+    TemporaryFolder folder;
     Diary diary;
     RecordingRunner runner{diary};
-    RecordingFileManager files{diary};
-    TemporaryFolder folder;
+    RecordingFileManager files{diary, folder};
     bool isRoot = true;
     std::string lockPath = folder.path() + "/lock";
     // How supervised work ends; by default it runs in place.

@@ -3,15 +3,14 @@
 #pragma once
 
 #include <functional>
-#include <map>
-#include <set>
 #include <string>
 #include <vector>
 
 #include "core/CommandRunner.h"
 #include "core/Feedback.h"
-#include "core/FileManager.h"
+#include "core/SystemFileManager.h"
 #include "core/TaskQueues.h"
+#include "support/TemporaryFolder.h"
 
 namespace tarnwick::testing {
 
@@ -44,29 +43,20 @@ private:
     Diary& diary_;
 };
 
-// Files in memory: a path is there if it has a text. Removing takes everything below too.
-class RecordingFileManager : public FileManager {
+// The real thing below a temporary folder, which notes what it is asked for.
+class RecordingFileManager : public SystemFileManager {
 public:
-    explicit RecordingFileManager(Diary& diary) : diary_(diary) {}
+    RecordingFileManager(Diary& diary, const TemporaryFolder& folder)
+        : SystemFileManager(folder.path()), diary_(diary) {}
 
     bool exists(std::string_view path) const override;
-    std::optional<std::vector<std::string>> list(std::string_view path) const override;
-    std::optional<std::string> readText(std::string_view path) const override;
-    std::uint64_t fileSize(std::string_view path) const override;
-    std::optional<std::time_t> changeTime(std::string_view path) const override;
-    std::int64_t fileSystemSize(std::string_view path) const override;
-    std::int64_t fileSystemFreeSize(std::string_view path) const override;
     bool remove(std::string_view path) override;
     bool copy(std::string_view from, std::string_view to) override;
     bool createDirectory(std::string_view path) override;
     bool createFile(std::string_view path) override;
     bool writeText(std::string_view path, std::string_view text) override;
-
-    std::map<std::string, std::string, std::less<>> texts;
-    std::set<std::string, std::less<>> unreadable;  // there, but not text
-    std::optional<std::vector<std::string>> listing;
-    std::int64_t total = 0;
-    std::int64_t free = 0;
+    std::int64_t fileSystemSize(std::string_view path) const override;
+    std::int64_t fileSystemFreeSize(std::string_view path) const override;
 
 private:
     Diary& diary_;
@@ -75,8 +65,8 @@ private:
 class RecordingFeedback : public Feedback {
 public:
     explicit RecordingFeedback(Diary& diary) : diary_(diary) {}
-    void showHud(std::string_view label) override;
-    void hideHud() override;
+    void showHud(std::string_view label) override { diary_.note("hud: " + std::string(label)); }
+    void hideHud() override { diary_.note("hide"); }
     void show(const Alert& alert) override;
 
     Alert lastAlert;
@@ -92,19 +82,19 @@ public:
     explicit SteppedQueues(Diary& diary) : diary_(diary) {}
     void runInBackground(Task task) override;
     void performOnMainThreadAndWait(Task task) override;
-    void dispatchToGlobalQueue(Task task) override { global.push_back(std::move(task)); }
+    void dispatchToGlobalQueue(Task task) override { global_.push_back(std::move(task)); }
     void dispatchToMainQueue(Task task) override;
 
     // Runs what is queued, oldest first, until nothing is left.
     void stepGlobal();
     void stepMain();
 
-    std::vector<Task> global;
-    std::vector<Task> main;
     bool mainIsFaster = false;  // a dispatched task runs before its dispatcher goes on
 
 private:
     Diary& diary_;
+    std::vector<Task> global_;
+    std::vector<Task> main_;
 };
 
 }  // namespace tarnwick::testing

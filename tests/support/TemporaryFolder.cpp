@@ -5,6 +5,9 @@
 #include <fstream>
 #include <sstream>
 
+#include "core/ItemCatalogue.h"
+#include "core/SafeguardPaths.h"
+
 namespace tarnwick::testing {
 
 namespace fs = std::filesystem;
@@ -31,6 +34,14 @@ std::string TemporaryFolder::content(const std::string& name) const {
 void TemporaryFolder::put(const std::string& name, const std::string& content) const {
     fs::create_directories(fs::path(path_ + "/" + name).parent_path());
     std::ofstream(path_ + "/" + name) << content;
+}
+
+void TemporaryFolder::putEveryArchive() const {
+    for (const std::string_view folder : paths::safeguardFolders)
+        fs::create_directories(path_ + std::string(folder));
+    for (const BackupItem& item : ItemCatalogue())
+        for (const std::string& archive : item.archivePaths)
+            put(archive, "zip");
 }
 
 }  // namespace tarnwick::testing

@@ -4,7 +4,7 @@
 
 namespace tarnwick::testing {
 
-// An empty folder for one test; gone with it.
+// An empty folder for one test; gone with it. Names are paths below it.
 class TemporaryFolder {
 public:
     TemporaryFolder();
@@ -13,9 +13,12 @@ public:
     ~TemporaryFolder();
 
     const std::string& path() const { return path_; }
-    // The content of a file below; "(none)" if there is none.
+    // The content of a file; "(none)" if there is none.
     std::string content(const std::string& name) const;
+    // Makes the folders between as well.
     void put(const std::string& name, const std::string& content) const;
+    // An archive for each item, and the folders that they are in.
+    void putEveryArchive() const;
 
 private:
     std::string path_;
