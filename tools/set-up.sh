@@ -27,7 +27,7 @@ as_root() {
     elif command -v sudo >/dev/null; then
         sudo "$@"
     else
-        echo "These packages are missing, and there is neither root nor sudo to install them: $missing" >&2
+        echo "Packages are missing, and there is neither root nor sudo to install them" >&2
         exit 1
     fi
 }
@@ -36,32 +36,43 @@ package_lists_are_there() {
     apt-cache show "$1" >/dev/null 2>&1
 }
 
-install_missing() {
-    local missing package
-    missing=$(missing_packages "$1" | tr '\n' ' ')
-    [ -n "$missing" ] || return 0
-    echo "Installing: $missing" >&2
-    for package in $missing; do
+# Runs a step with its output in a log, which is shown only if the step fails.
+logged() {
+    local log=$repository/build/$1.log
+    shift
+    mkdir -p "$repository/build"
+    "$@" >"$log" 2>&1 || {
+        cat "$log" >&2
+        exit 1
+    }
+}
+
+install_packages() {
+    local package
+    for package in "$@"; do
         package_lists_are_there "$package" && continue
         as_root apt-get update -qq
         break
     done
-    # The names are to be split.
-    # shellcheck disable=SC2086
-    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing >&2
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "$@"
 }
 
-# Configures a preset once and builds it; quiet unless it fails.
+install_missing() {
+    local missing
+    missing=$(missing_packages "$1" | tr '\n' ' ')
+    [ -n "$missing" ] || return 0
+    echo "Installing: $missing" >&2
+    # The names are to be split.
+    # shellcheck disable=SC2086
+    logged set-up install_packages $missing
+}
+
+configure_and_build() {
+    [ -f "$repository/build/$1/build.ninja" ] || cmake -S "$repository" --preset "$1" || return
+    cmake --build "$repository/build/$1"
+}
+
+# Configures a preset once and builds it.
 build() {
-    local preset=$1 log
-    log=$repository/build/$preset.log
-    mkdir -p "$repository/build"
-    if {
-        [ -f "$repository/build/$preset/build.ninja" ] || cmake -S "$repository" --preset "$preset"
-        cmake --build "$repository/build/$preset"
-    } >"$log" 2>&1; then
-        return 0
-    fi
-    cat "$log" >&2
-    exit 1
+    logged "$1" configure_and_build "$1"
 }
