@@ -27,8 +27,8 @@ as_root() {
     elif command -v sudo >/dev/null; then
         sudo "$@"
     else
-        echo "Packages are missing, and there is neither root nor sudo to install them" >&2
-        exit 1
+        echo "Packages are missing, and there is neither root nor sudo to install them." >&2
+        return 1
     fi
 }
 
@@ -51,7 +51,7 @@ install_packages() {
     local package
     for package in "$@"; do
         package_lists_are_there "$package" && continue
-        as_root apt-get update -qq
+        as_root apt-get update -qq || return
         break
     done
     as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "$@"
