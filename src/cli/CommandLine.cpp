@@ -65,7 +65,7 @@ ExitStatus runLocked(Session& session, const Command& command,
     if (lock.state() == RunLock::State::Unavailable) {
         session.output.complaint("cannot tell whether another run is under way: " +
                                  session.world.lockPath + " cannot be opened");
-        return RunUnderWay;
+        return NotAllDone;
     }
     return command.run(session, words);
 }

@@ -52,7 +52,7 @@ Rows itemRows(const ItemCatalogue& catalogue) {
 
 const Rows statusRows = {
     {"0", "all done"},
-    {"1", "an archive or a backup is missing or damaged, or a question was answered with no"},
+    {"1", "an archive or a backup is missing or damaged, the answer was no, or the run failed"},
     {"2", "wrong usage"},
     {"3", "another run is under way"},
     {"4", "not root"},

@@ -5,7 +5,7 @@ namespace tarnwick {
 // What the command ends with.
 enum ExitStatus : int {
     AllDone = 0,
-    BackupMissing =
+    NotAllDone =
         1,  // an archive or a backup is missing or damaged, or a question was answered with no
     WrongUsage = 2,
     RunUnderWay = 3,

@@ -19,15 +19,6 @@ std::string formattedTime(std::time_t time, const char* format,
     return std::string(text, std::strftime(text, sizeof text, format, &parts));
 }
 
-// A name in the folder may hold anything; a terminal is to see no control characters.
-std::string printable(std::string name) {
-    std::replace_if(
-        name.begin(), name.end(),
-        [](char character) { return (character >= 0 && character < ' ') || character == 0x7F; },
-        '?');
-    return name;
-}
-
 std::string rightAligned(const std::string& text, std::size_t width) {
     return std::string(width - std::min(width, text.size()), ' ') + text;
 }
@@ -36,27 +27,40 @@ void tellFile(Session& session, const std::string& folder, const std::string& na
     constexpr std::size_t sizeWidth = 12;
     const std::string path = folder + "/" + name;
     const auto size = session.files.fileSize(path);
-    const auto changed = session.files.changeTime(path).value_or(0);
+    const auto modified = session.files.modificationTime(path).value_or(0);
     const std::string shown = folder.substr(folder.rfind('/') + 1) + "/" + name;
     session.output.result(
-        formattedTime(changed, "%Y-%m-%d %H:%M", ::localtime_r) + "  " +
+        formattedTime(modified, "%Y-%m-%d %H:%M", ::localtime_r) + "  " +
             rightAligned(memoryFormatterDouble(static_cast<double>(size)), sizeWidth) + "  " +
-            printable(shown),
+            shown,
         {{"file", shown},
          {"bytes", static_cast<std::int64_t>(size)},
-         {"changed", formattedTime(changed, "%Y-%m-%dT%H:%M:%SZ", ::gmtime_r)}});
+         {"modified", formattedTime(modified, "%Y-%m-%dT%H:%M:%SZ", ::gmtime_r)}});
 }
 
-// False if the folder is there but cannot be read.
-bool listFolder(Session& session, const std::string& folder, std::size_t& count) {
-    auto names = session.files.list(folder);
-    if (!names)
-        return !session.files.exists(folder);
-    std::sort(names->begin(), names->end());
-    for (const std::string& name : *names)
-        tellFile(session, folder, name);
-    count += names->size();
+// Whether the safeguard folder can be looked into; says so if not. One that is not there holds
+// nothing.
+bool isReadable(Session& session) {
+    for (const std::string_view folder : paths::safeguardFolders) {
+        if (session.files.list(folder) || !session.files.exists(folder))
+            continue;
+        session.output.complaint(std::string(folder) + " cannot be read");
+        return false;
+    }
     return true;
+}
+
+ExitStatus unreadable(const Session& session) {
+    return session.world.isRoot ? NotAllDone : NotRoot;
+}
+
+// Tells how many files there were.
+std::size_t listFolder(Session& session, const std::string& folder) {
+    auto names = session.files.list(folder).value_or(std::vector<std::string>{});
+    std::sort(names.begin(), names.end());
+    for (const std::string& name : names)
+        tellFile(session, folder, name);
+    return names.size();
 }
 
 // The named items' archives; without names, every archive that is there.
@@ -91,30 +95,31 @@ bool checkArchive(Session& session, const std::string& path) {
 }  // namespace
 
 ExitStatus listSafeguard(Session& session, const std::vector<std::string>&) {
+    if (!isReadable(session))
+        return unreadable(session);
     std::size_t count = 0;
     for (const std::string_view folder :
-         {paths::sourcesFolder, paths::packagesFolder, paths::archiveFolder}) {
-        if (listFolder(session, std::string(folder), count))
-            continue;
-        session.output.complaint(std::string(folder) + " cannot be read");
-        return session.world.isRoot ? BackupMissing : NotRoot;
-    }
+         {paths::sourcesFolder, paths::packagesFolder, paths::archiveFolder})
+        count += listFolder(session, std::string(folder));
     if (count == 0 && !session.arguments.json)
         session.output.result("The safeguard folder is empty.", {});
     return AllDone;
 }
 
 ExitStatus checkArchives(Session& session, const std::vector<std::string>& words) {
+    if (!isReadable(session))
+        return unreadable(session);
     const auto archives = archivesOf(session, words);
+    if (archives.empty()) {
+        session.output.complaint("there is no archive");
+        return NotAllDone;
+    }
     const auto work = [&] {
         for (const std::string& archive : archives)
             if (!checkArchive(session, archive))
                 session.feedback.noteProblem();
     };
-    const auto report = session.perform(work, {});
-    if (!report)
-        return Interrupted;
-    return report->hasProblem ? BackupMissing : AllDone;
+    return session.perform(work, {});
 }
 
 ExitStatus tellStorage(Session& session, const std::vector<std::string>&) {

@@ -1,5 +1,7 @@
 #include "cli/Json.h"
 
+#include <algorithm>
+
 #include "core/TextLines.h"
 
 namespace tarnwick {
@@ -27,14 +29,12 @@ std::string escaped(char character) {
 }
 
 std::string asUtf8(const std::string& text) {
-    if (isValidUtf8(text))
-        return text;
     std::string mended;
-    for (const char character : text)
-        if (static_cast<unsigned char>(character) < 0x80)
-            mended += character;
-        else
-            mended += "\uFFFD";
+    for (std::size_t position = 0; position < text.size();) {
+        const std::size_t length = characterLength(text, position);
+        mended += length > 0 ? text.substr(position, length) : "\uFFFD";
+        position += std::max<std::size_t>(length, 1);
+    }
     return mended;
 }
 

@@ -45,7 +45,7 @@ ExitStatus tellSize(Session& session, const std::vector<std::string>& words) {
         session.options.backupSize();
         choose(session, buttonIndexOf(words.front(), itemWords(session.catalogue)));
     };
-    return session.perform(work, leftovers) ? AllDone : Interrupted;
+    return session.perform(work, leftovers);
 }
 
 ExitStatus recreateFolders(Session& session, const std::vector<std::string>& words) {

@@ -1,22 +1,54 @@
 #include "cli/Output.h"
 
+#include <poll.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <string_view>
+
+#include "core/TextLines.h"
 
 namespace tarnwick {
 
 namespace {
 
+void awaitReader(int descriptor) {
+    struct pollfd reader = {descriptor, POLLOUT, 0};
+    ::poll(&reader, 1, -1);
+}
+
 void writeAll(int descriptor, std::string_view text) {
     while (!text.empty()) {
         const ssize_t count = ::write(descriptor, text.data(), text.size());
-        if (count < 0 && errno != EINTR)
-            return;
         if (count > 0)
             text.remove_prefix(static_cast<std::size_t>(count));
+        else if (errno == EAGAIN)
+            awaitReader(descriptor);
+        else if (errno != EINTR)
+            return;
     }
+}
+
+bool isControl(std::string_view character) {
+    if (character.size() == 1)
+        return (character[0] >= 0 && character[0] < ' ' && character[0] != '\n') ||
+               character[0] == 0x7F;
+    return character.size() == 2 && character[0] == '\xC2' &&
+           static_cast<unsigned char>(character[1]) < 0xA0;
+}
+
+// Texts may hold names of files, and those anything: a terminal is to see no control characters.
+std::string printable(std::string_view text) {
+    std::string shown;
+    for (std::size_t position = 0; position < text.size();) {
+        const std::size_t length = std::max<std::size_t>(characterLength(text, position), 1);
+        const std::string_view character = text.substr(position, length);
+        const bool shows = characterLength(text, position) > 0 && !isControl(character);
+        shown += shows ? character : "?";
+        position += length;
+    }
+    return shown;
 }
 
 std::string red(const std::string& text) {
@@ -29,11 +61,12 @@ Output::Output(const Streams& streams, Format format, Colour colour)
     : streams_(streams), format_(format), colour_(colour) {}
 
 void Output::result(const std::string& text, const JsonFields& fields) {
-    writeAll(streams_.results, (format_ == Format::Json ? jsonObject(fields) : text) + "\n");
+    writeAll(streams_.results,
+             (format_ == Format::Json ? jsonObject(fields) : printable(text)) + "\n");
 }
 
 void Output::problem(const std::string& text, const JsonFields& fields) {
-    const std::string shown = colour_ == Colour::Coloured ? red(text) : text;
+    const std::string shown = colour_ == Colour::Coloured ? red(printable(text)) : printable(text);
     writeAll(streams_.problems, (format_ == Format::Json ? jsonObject(fields) : shown) + "\n");
 }
 
@@ -47,11 +80,11 @@ void Output::alert(const Alert& alert) {
 }
 
 void Output::complaint(const std::string& text) {
-    writeAll(streams_.problems, "tarnwick: " + text + "\n");
+    writeAll(streams_.problems, "tarnwick: " + printable(text) + "\n");
 }
 
 void Output::prompt(const std::string& text) {
-    writeAll(streams_.problems, text);
+    writeAll(streams_.problems, printable(text));
 }
 
 }  // namespace tarnwick

@@ -17,8 +17,6 @@ class Output {
 public:
     Output(const Streams& streams, Format format, Colour colour);
 
-    Format format() const { return format_; }
-
     // One line: the text, or the fields as an object.
     void result(const std::string& text, const JsonFields& fields);
     void problem(const std::string& text, const JsonFields& fields);

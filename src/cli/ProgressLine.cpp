@@ -77,10 +77,11 @@ void ProgressLine::setItem(const std::string& item, std::size_t place, std::size
     draw();
 }
 
-void ProgressLine::clear() {
+void ProgressLine::without(const std::function<void()>& writeOther) {
     const std::scoped_lock lock(mutex_);
     if (running_)
         erase();
+    writeOther();
 }
 
 void ProgressLine::stop() {

@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <functional>
 #include <mutex>
 #include <string>
 #include <thread>
@@ -30,9 +31,9 @@ public:
 
     void start(const std::string& label);
     void setItem(const std::string& item, std::size_t place, std::size_t count);
-    // Takes the line away, so that other text can be written; it comes back within a second unless
+    // Takes the line away while other text is written; it comes back within a second unless
     // stopped.
-    void clear();
+    void without(const std::function<void()>& writeOther);
     void stop();
     // Takes away what another process that ended early left on the line.
     void eraseLeftover();

@@ -26,8 +26,8 @@ std::uint64_t RehearsalFileManager::fileSize(std::string_view path) const {
     return files_.fileSize(path);
 }
 
-std::optional<std::time_t> RehearsalFileManager::changeTime(std::string_view path) const {
-    return files_.changeTime(path);
+std::optional<std::time_t> RehearsalFileManager::modificationTime(std::string_view path) const {
+    return files_.modificationTime(path);
 }
 
 std::int64_t RehearsalFileManager::fileSystemSize(std::string_view path) const {

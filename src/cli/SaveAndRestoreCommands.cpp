@@ -96,10 +96,7 @@ ExitStatus saveTargets(Session& session, const std::vector<std::string>& words) 
         for (const std::string& word : words)
             actions[placeOf(word, session.catalogue)].run(session.backup);
     };
-    const auto report = session.perform(work, stagingPathsOf(plan));
-    if (!report)
-        return Interrupted;
-    return report->hasProblem ? BackupMissing : AllDone;
+    return session.perform(work, stagingPathsOf(plan));
 }
 
 ExitStatus restoreTargets(Session& session, const std::vector<std::string>& words) {
@@ -109,16 +106,18 @@ ExitStatus restoreTargets(Session& session, const std::vector<std::string>& word
     Steps steps;
     if (const auto refused = addRestoreSteps(session, words, steps))
         return *refused;
-    const auto work = [&steps] {
+    const std::string unpackedTree(paths::unpackedTree);
+    const auto work = [&] {
+        // What a killed restore left there would be taken for a part of this one's archives.
+        if (session.files.exists(unpackedTree))
+            session.files.remove(unpackedTree);
         for (const auto& step : steps)
             step();
     };
-    const auto report = session.perform(work, {std::string(paths::unpackedTree)});
-    if (!report)
-        return Interrupted;
-    if (report->offer != Offer::None)
-        follow(session, answerTo(session, report->offer));
-    return report->hasProblem ? BackupMissing : AllDone;
+    return session.perform(work, {unpackedTree}, [&session](const RunReport& report) {
+        if (report.offer != Offer::None)
+            follow(session, answerTo(session, report.offer));
+    });
 }
 
 }  // namespace tarnwick

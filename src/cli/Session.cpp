@@ -47,31 +47,38 @@ std::optional<ExitStatus> Session::refusal(const Alert& question) {
     }
     if (questions.confirm(question))
         return std::nullopt;
-    return BackupMissing;
+    return NotAllDone;
 }
 
-std::optional<RunReport> Session::perform(const std::function<void()>& work,
-                                          const std::vector<std::string>& leftovers) {
+std::optional<ExitStatus> Session::failureOf(SupervisedRun::End end) {
+    if (end == SupervisedRun::End::Finished)
+        return std::nullopt;
+    const bool interrupted = end == SupervisedRun::End::Interrupted;
+    output.complaint(interrupted ? "interrupted" : "the run ended unexpectedly");
+    return interrupted ? Interrupted : NotAllDone;
+}
+
+ExitStatus Session::perform(const std::function<void()>& work,
+                            const std::vector<std::string>& leftovers,
+                            const std::function<void(const RunReport&)>& afterwards) {
     const auto reportedWork = [&work, this] {
         work();
         line_.stop();
         return feedback.report().asStatus();
     };
-    if (arguments.dryRun)
-        return RunReport::fromStatus(reportedWork());
-    const SupervisedRun run = world.supervise(reportedWork);
-    if (run.end == SupervisedRun::End::Finished)
-        return RunReport::fromStatus(run.status);
-    for (const std::string& leftover : leftovers)
-        files.remove(leftover);
-    line_.eraseLeftover();
-    const bool interrupted = run.end == SupervisedRun::End::Interrupted;
-    output.complaint(interrupted ? "interrupted" : "the run ended unexpectedly");
-    if (interrupted)
-        return std::nullopt;
-    RunReport report;
-    report.hasProblem = true;
-    return report;
+    const auto tidyUp = [&leftovers, this] {
+        for (const std::string& leftover : leftovers)
+            files.remove(leftover);
+        line_.eraseLeftover();
+    };
+    const SupervisedRun run = arguments.dryRun
+                                  ? SupervisedRun{SupervisedRun::End::Finished, reportedWork()}
+                                  : world.supervise(reportedWork, tidyUp);
+    if (const auto failure = failureOf(run.end))
+        return *failure;
+    const RunReport report = RunReport::fromStatus(run.status);
+    afterwards(report);
+    return report.hasProblem ? NotAllDone : AllDone;
 }
 
 }  // namespace tarnwick

@@ -31,7 +31,9 @@ struct World {
     FileManager& files;
     bool isRoot;
     std::string lockPath;
-    std::function<SupervisedRun(const std::function<int()>&)> supervise;
+    std::function<SupervisedRun(const std::function<int()>& work,
+                                const std::function<void()>& tidyUp)>
+        supervise;
 };
 
 // One run of the command: the operations, wired to a terminal, or to a rehearsal for --dry-run.
@@ -44,10 +46,11 @@ public:
     // Nothing if the question may be taken as answered with yes; otherwise the status to end with.
     std::optional<ExitStatus> refusal(const Alert& question);
 
-    // Does the work in a process of its own. When that is interrupted, takes the leftovers away;
-    // none then.
-    std::optional<RunReport> perform(const std::function<void()>& work,
-                                     const std::vector<std::string>& leftovers);
+    // Does the work in a process of its own; then what is to be done afterwards, unless the work
+    // did not come to its end: in that case takes the leftovers away.
+    ExitStatus perform(
+        const std::function<void()>& work, const std::vector<std::string>& leftovers,
+        const std::function<void(const RunReport&)>& afterwards = [](const RunReport&) {});
 
     const World& world;
     const Arguments& arguments;
@@ -56,6 +59,8 @@ public:
     const ItemCatalogue catalogue;
 
 private:
+    std::optional<ExitStatus> failureOf(SupervisedRun::End end);
+
     RehearsalRunner rehearsalRunner_;
     RehearsalFileManager rehearsalFiles_;
     ProgressLine line_;

@@ -4,6 +4,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <ctime>
 
@@ -11,120 +13,137 @@ namespace tarnwick {
 
 namespace {
 
-// How long commands that were told to end may take to tidy up, in seconds, before they are killed.
-constexpr int tidyingTime = 5;
+// How long commands that were told to end may take to tidy up before they are killed.
+constexpr std::chrono::seconds tidyingTime(5);
+constexpr struct timespec shortWhile = {0, 20'000'000};  // nanoseconds
 
-// The signals that the supervisor waits for, blocked while it lives.
+constexpr int endingSignals[] = {SIGINT, SIGTERM, SIGQUIT, SIGUSR1, SIGUSR2, SIGALRM, SIGXCPU};
+
+// The signals that the supervisor waits for. They stay blocked until they are restored.
 class AwaitedSignals {
 public:
     AwaitedSignals() {
         ::sigemptyset(&awaited_);
-        for (const int signal : {SIGINT, SIGQUIT, SIGTERM, SIGTSTP, SIGCHLD})
+        for (const int signal : endingSignals)
             ::sigaddset(&awaited_, signal);
+        ::sigaddset(&awaited_, SIGTSTP);
+        ::sigaddset(&awaited_, SIGCHLD);
         // Whoever started us to outlive the terminal said so by ignoring the hang-up.
         struct sigaction hangUp = {};
         if (::sigaction(SIGHUP, nullptr, &hangUp) == 0 && hangUp.sa_handler != SIG_IGN)
             ::sigaddset(&awaited_, SIGHUP);
         ::sigprocmask(SIG_BLOCK, &awaited_, &before_);
     }
-    AwaitedSignals(const AwaitedSignals&) = delete;
-    AwaitedSignals& operator=(const AwaitedSignals&) = delete;
-    ~AwaitedSignals() { restore(); }
 
     void restore() const { ::sigprocmask(SIG_SETMASK, &before_, nullptr); }
 
     int next() const { return ::sigwaitinfo(&awaited_, nullptr); }
-
-    // Returns -1 when none came in time.
-    int nextWithin(int seconds) const {
-        const struct timespec limit = {seconds, 0};
-        return ::sigtimedwait(&awaited_, nullptr, &limit);
-    }
+    void passShortWhile() const { ::sigtimedwait(&awaited_, nullptr, &shortWhile); }
 
 private:
     sigset_t awaited_ = {};
     sigset_t before_ = {};
 };
 
-[[noreturn]] void becomeWorker(const AwaitedSignals& signals, const std::function<int()>& work) {
-    ::setpgid(0, 0);
-    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+// The supervisor vanished without a word: nothing may go on without it.
+void endWithCommands(int) {
+    std::signal(SIGTERM, SIG_DFL);
+    ::kill(0, SIGTERM);
+}
+
+[[noreturn]] void becomeWorker(const AwaitedSignals& signals, pid_t supervisor,
+                               const std::function<int()>& work) {
+    // A session without a terminal: a command that would ask there for a password fails instead.
+    ::setsid();
+    std::signal(SIGTERM, endWithCommands);
+    ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+    if (::getppid() != supervisor)
+        ::_exit(1);
     // A shell hands ignored signals on to what it starts in the background; commands must heed
     // theirs.
     std::signal(SIGINT, SIG_DFL);
     std::signal(SIGQUIT, SIG_DFL);
-    // Output from a background group must not stop the run on terminals that are set so.
-    std::signal(SIGTTOU, SIG_IGN);
     signals.restore();
     ::_exit(work());
 }
 
+// As the terminal asks; where there is no shell to wake us again, the kernel does not stop us.
 void suspendWith(pid_t group) {
+    sigset_t suspension = {};
+    ::sigemptyset(&suspension);
+    ::sigaddset(&suspension, SIGTSTP);
     ::kill(-group, SIGSTOP);
-    ::raise(SIGSTOP);
+    ::raise(SIGTSTP);
+    ::sigprocmask(SIG_UNBLOCK, &suspension, nullptr);
+    ::sigprocmask(SIG_BLOCK, &suspension, nullptr);
     ::kill(-group, SIGCONT);
 }
 
-// Waits until no child is left, orphans of the worker included. False when the time runs out first.
-bool awaitAll(const AwaitedSignals& signals) {
-    for (;;) {
-        const pid_t ended = ::waitpid(-1, nullptr, WNOHANG);
-        if (ended < 0)
-            return true;
-        if (ended == 0 && signals.nextWithin(tidyingTime) < 0)
-            return false;
+// Collects what has ended; true once nothing of the group is left.
+bool isGone(pid_t group) {
+    while (::waitpid(-1, nullptr, WNOHANG) > 0) {
     }
+    return ::kill(-group, 0) != 0 && errno == ESRCH;
 }
 
+bool becomesGone(const AwaitedSignals& signals, pid_t group) {
+    const auto limit = std::chrono::steady_clock::now() + tidyingTime;
+    while (!isGone(group)) {
+        if (std::chrono::steady_clock::now() > limit)
+            return false;
+        signals.passShortWhile();
+    }
+    return true;
+}
+
+// The worker first, so that it starts nothing more; then its commands.
 void endAll(const AwaitedSignals& signals, pid_t worker) {
     ::kill(worker, SIGKILL);
     for (const int signal : {SIGTERM, SIGKILL}) {
         ::kill(-worker, signal);
         ::kill(-worker, SIGCONT);
-        if (awaitAll(signals))
+        if (becomesGone(signals, worker))
             return;
     }
 }
 
-SupervisedRun ended(int status) {
-    if (WIFEXITED(status))
-        return {SupervisedRun::End::Finished, WEXITSTATUS(status)};
-    return {SupervisedRun::End::Crashed};
-}
-
+// Waits for the work's end or for a signal that ends it.
 SupervisedRun watch(const AwaitedSignals& signals, pid_t worker) {
     for (;;) {
         const int signal = signals.next();
         int status = 0;
-        if (signal == SIGCHLD) {
-            if (::waitpid(worker, &status, WNOHANG) == worker) {
-                const SupervisedRun run = ended(status);
-                if (run.end == SupervisedRun::End::Crashed)
-                    endAll(signals, worker);
-                return run;
-            }
-        } else if (signal == SIGTSTP) {
+        if (signal == SIGTSTP)
             suspendWith(worker);
-        } else if (signal > 0) {
-            endAll(signals, worker);
+        else if (signal > 0 && signal != SIGCHLD)
             return {SupervisedRun::End::Interrupted};
-        }
+        else if (::waitpid(worker, &status, WNOHANG) == worker)
+            return WIFEXITED(status)
+                       ? SupervisedRun{SupervisedRun::End::Finished, WEXITSTATUS(status)}
+                       : SupervisedRun{SupervisedRun::End::Crashed};
     }
 }
 
 }  // namespace
 
-SupervisedRun supervise(const std::function<int()>& work) {
+SupervisedRun supervise(const std::function<int()>& work, const std::function<void()>& tidyUp) {
     const AwaitedSignals signals;
     // Commands whose parent was killed become our children, so that we can wait for them too.
     ::prctl(PR_SET_CHILD_SUBREAPER, 1);
+    const pid_t supervisor = ::getpid();
     const pid_t worker = ::fork();
     if (worker < 0)
         return {SupervisedRun::End::Crashed};
     if (worker == 0)
-        becomeWorker(signals, work);
-    ::setpgid(worker, worker);
-    return watch(signals, worker);
+        becomeWorker(signals, supervisor, work);
+    const SupervisedRun run = watch(signals, worker);
+    if (run.end != SupervisedRun::End::Finished) {
+        endAll(signals, worker);
+        tidyUp();
+    }
+    // An impatient second signal must not cut the end of an interrupted run short.
+    if (run.end != SupervisedRun::End::Interrupted)
+        signals.restore();
+    return run;
 }
 
 }  // namespace tarnwick

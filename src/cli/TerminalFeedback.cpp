@@ -57,8 +57,7 @@ void TerminalFeedback::show(const Alert& alert) {
     report_.offer = std::max(report_.offer, offerOf(alert));
     if (mode_ == Mode::Silent)
         return;
-    line_.clear();
-    output_.alert(alert);
+    line_.without([&] { output_.alert(alert); });
     report_.hasProblem = report_.hasProblem || alert.kind == AlertKind::Problem;
 }
 

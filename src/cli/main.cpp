@@ -1,6 +1,7 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <cstdlib>
 
 #include "cli/CommandLine.h"
 #include "core/SystemCommandRunner.h"
@@ -14,6 +15,10 @@ int main(int count, char** values) {
     // A reader that went away must not end a save half-way. A handler, as commands would inherit an
     // ignored signal but start with the default instead of a handler.
     std::signal(SIGPIPE, [](int) {});
+    // The caller's wishes for other uses of these tools would make archives that no restore can
+    // use.
+    for (const char* wishes : {"ZIP", "ZIPOPT", "UNZIP", "UNZIPOPT"})
+        ::unsetenv(wishes);
     // One copy line has a target that counts on this.
     if (::chdir("/") != 0)
         return WrongUsage;

@@ -26,7 +26,7 @@ public:
     // Bytes; 0 if the file cannot be looked at.
     virtual std::uint64_t fileSize(std::string_view path) const = 0;
     // When the file was last changed; none if it cannot be looked at.
-    virtual std::optional<std::time_t> changeTime(std::string_view path) const = 0;
+    virtual std::optional<std::time_t> modificationTime(std::string_view path) const = 0;
     // Bytes of the file system that holds the path; 0 if it cannot be asked. Free means free to
     // users.
     virtual std::int64_t fileSystemSize(std::string_view path) const = 0;

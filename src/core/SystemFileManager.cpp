@@ -118,7 +118,7 @@ std::uint64_t SystemFileManager::fileSize(std::string_view path) const {
     return status ? static_cast<std::uint64_t>(status->st_size) : 0;
 }
 
-std::optional<std::time_t> SystemFileManager::changeTime(std::string_view path) const {
+std::optional<std::time_t> SystemFileManager::modificationTime(std::string_view path) const {
     const auto status = statusOf(placed(path));
     return status ? std::optional(status->st_mtime) : std::nullopt;
 }

@@ -15,7 +15,7 @@ public:
     std::optional<std::vector<std::string>> list(std::string_view path) const override;
     std::optional<std::string> readText(std::string_view path) const override;
     std::uint64_t fileSize(std::string_view path) const override;
-    std::optional<std::time_t> changeTime(std::string_view path) const override;
+    std::optional<std::time_t> modificationTime(std::string_view path) const override;
     std::int64_t fileSystemSize(std::string_view path) const override;
     std::int64_t fileSystemFreeSize(std::string_view path) const override;
     bool remove(std::string_view path) override;

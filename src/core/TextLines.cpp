@@ -35,20 +35,6 @@ Lead leadOf(unsigned byte) {
     return {4, byte == 0xF0 ? 0x90U : 0x80U, byte == 0xF4 ? 0x8FU : 0xBFU};
 }
 
-// Bytes of the valid character at the position; 0 where there is none.
-std::size_t characterLength(std::string_view text, std::size_t position) {
-    const Lead lead = leadOf(byteAt(text, position));
-    if (lead.length < 2)
-        return lead.length;
-    const unsigned second = byteAt(text, position + 1);
-    if (second < lead.lowest || second > lead.highest)
-        return 0;
-    for (std::size_t offset = 2; offset < lead.length; ++offset)
-        if (!isContinuation(byteAt(text, position + offset)))
-            return 0;
-    return lead.length;
-}
-
 // Bytes of the newline character at the position; 0 where there is none.
 std::size_t newlineLength(std::string_view text, std::size_t position) {
     const unsigned byte = byteAt(text, position);
@@ -61,6 +47,19 @@ std::size_t newlineLength(std::string_view text, std::size_t position) {
 }
 
 }  // namespace
+
+std::size_t characterLength(std::string_view text, std::size_t position) {
+    const Lead lead = leadOf(byteAt(text, position));
+    if (lead.length < 2)
+        return lead.length;
+    const unsigned second = byteAt(text, position + 1);
+    if (second < lead.lowest || second > lead.highest)
+        return 0;
+    for (std::size_t offset = 2; offset < lead.length; ++offset)
+        if (!isContinuation(byteAt(text, position + offset)))
+            return 0;
+    return lead.length;
+}
 
 bool isValidUtf8(std::string_view text) {
     for (std::size_t position = 0; position < text.size();) {

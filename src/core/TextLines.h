@@ -11,7 +11,10 @@ namespace tarnwick {
 
 using Lines = std::vector<std::string_view>;
 
-// No overlong forms, surrogates or values past U+10FFFF.
+// Bytes of the valid UTF-8 character at the position; 0 where there is none. There are no overlong
+// forms, surrogates or values past U+10FFFF.
+std::size_t characterLength(std::string_view text, std::size_t position);
+
 bool isValidUtf8(std::string_view text);
 
 // Splits valid UTF-8 at each single newline character (U+000A to U+000D, U+0085, U+2028, U+2029),

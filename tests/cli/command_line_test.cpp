@@ -54,6 +54,7 @@ TEST(CommandLine, WhatChangesTheDeviceNeedsRootAndNoOtherRun) {
         EXPECT_TRUE(tarnwick.diary.entries.empty()) << words;
     }
     tarnwick.isRoot = false;
+    tarnwick.folder.putEveryArchive();
     for (const char* words : {"list", "check", "storage", "faq", "save all --dry-run"})
         EXPECT_EQ(tarnwick(words), AllDone) << words;
 }
@@ -64,7 +65,7 @@ TEST(CommandLine, SavesTheNamedTargetsInTheirOrder) {
         if (line.starts_with("zip"))
             tarnwick.folder.put(library + "Notes.zip", "zip");
     };
-    EXPECT_EQ(tarnwick("save packages notes calendar"), BackupMissing);
+    EXPECT_EQ(tarnwick("save packages notes calendar"), NotAllDone);
     EXPECT_EQ(tarnwick.results(),
               "Cydia Packages Backup: Backup done !\nNotes Backup: Backup done !\n");
     EXPECT_EQ(
@@ -147,7 +148,7 @@ TEST(CommandLine, TheOfferIsClosedUnlessThenSaysOtherwise) {
 TEST(CommandLine, AMissingBackupIsAProblemEvenIfTheRestIsRestored) {
     CommandLineRun tarnwick;
     tarnwick.folder.put(library + "Notes.zip", "zip");
-    EXPECT_EQ(tarnwick("restore notes packages"), BackupMissing);
+    EXPECT_EQ(tarnwick("restore notes packages"), NotAllDone);
     EXPECT_EQ(tarnwick.results(), "Notes Restoration: Restoration done !\n");
     EXPECT_EQ(tarnwick.problems(),
               "Cydia Packages Restoration: You have no Cydia Packages backup, there is nothing to "
@@ -162,24 +163,36 @@ TEST(CommandLine, AnInterruptedRunTakesItsStagingCopiesAway) {
               (Entries{"remove: " + library + "DCIM", "remove: " + library + "PhotoData",
                        "remove: /var/tmp/Preferences"}));
     EXPECT_EQ(tarnwick("restore notes"), Interrupted);
-    EXPECT_EQ(tarnwick.diary.entries.back(), "remove: /var/tmp/var");
+    EXPECT_EQ(tarnwick.diary.changes(), Entries{"remove: /var/tmp/var"});
     EXPECT_EQ(tarnwick("size notes"), Interrupted);
     EXPECT_EQ(tarnwick.diary.entries,
               (Entries{"remove: /var/tmp/Notes", "remove: /var/tmp/Notes.zip"}));
     tarnwick.end = SupervisedRun::End::Crashed;
-    EXPECT_EQ(tarnwick("save notes"), BackupMissing);
-    EXPECT_EQ(tarnwick.problems(), "tarnwick: the run ended unexpectedly\n");
+    for (const char* words : {"save notes", "size notes", "restore notes"}) {
+        EXPECT_EQ(tarnwick(words), NotAllDone) << words;
+        EXPECT_EQ(tarnwick.problems(), "tarnwick: the run ended unexpectedly\n");
+    }
+}
+
+TEST(CommandLine, WhatAKilledRestoreUnpackedIsTakenAwayFirst) {
+    CommandLineRun tarnwick;
+    tarnwick.folder.putEveryArchive();
+    tarnwick.folder.put("/var/tmp/var/half", "");
+    EXPECT_EQ(tarnwick("restore accounts"), AllDone);
+    EXPECT_EQ(tarnwick.diary.changes().front(), "remove: /var/tmp/var");
 }
 
 TEST(CommandLine, CheckNamesEachArchive) {
     CommandLineRun tarnwick;
+    EXPECT_EQ(tarnwick("check"), NotAllDone);
+    EXPECT_EQ(tarnwick.problems(), "tarnwick: there is no archive\n");
     tarnwick.folder.put(library + "Notes.zip", "zip");
     EXPECT_EQ(tarnwick("check"), AllDone);
     EXPECT_EQ(tarnwick.results(), "Notes.zip: good\n");
     EXPECT_EQ(tarnwick.diary.changes(),
               Entries{"run: /usr/bin/unzip -tqq " + library + "Notes.zip"});
     tarnwick.runner.status = 3 << 8;
-    EXPECT_EQ(tarnwick("check notes photos"), BackupMissing);
+    EXPECT_EQ(tarnwick("check notes photos"), NotAllDone);
     EXPECT_EQ(tarnwick.problems(),
               "Notes.zip: damaged\nDCIM.zip: missing\nPhotoData.zip: missing\n");
 }
@@ -195,7 +208,7 @@ TEST(CommandLine, ListShowsWhatIsThere) {
     EXPECT_TRUE(tarnwick.results().ends_with("0.00 B  TarnwickLibrary/b?[2J.zip\n"));
     // A file in a folder's place is there but cannot be read as one.
     tarnwick.folder.put(root + "/CydiaSources", "");
-    EXPECT_EQ(tarnwick("list"), BackupMissing);
+    EXPECT_EQ(tarnwick("list"), NotAllDone);
     tarnwick.isRoot = false;
     EXPECT_EQ(tarnwick("list"), NotRoot);
 }

@@ -36,10 +36,13 @@ bool lives(const std::string& pid) {
 
 // Runs the work supervised in a process of its own, sends that process the signal once the work has
 // put its commands' numbers into the file "ready", and returns how the supervision ended.
+// A second signal comes while it tidies up.
 int endAfter(int signal, const std::function<int()>& work, const TemporaryFolder& folder) {
     const pid_t supervisor = ::fork();
-    if (supervisor == 0)
-        ::_exit(static_cast<int>(supervise(work).end));
+    if (supervisor == 0) {
+        const auto tidyUp = [] { ::raise(SIGTERM); };
+        ::_exit(static_cast<int>(supervise(work, tidyUp).end));
+    }
     EXPECT_TRUE(comesTrue([&] { return folder.content("ready").ends_with("\n"); }));
     ::kill(supervisor, signal);
     int status = 0;
@@ -50,14 +53,16 @@ int endAfter(int signal, const std::function<int()>& work, const TemporaryFolder
 constexpr int interrupted = static_cast<int>(SupervisedRun::End::Interrupted);
 
 TEST(Supervisor, HandsTheStatusOn) {
-    const SupervisedRun run = supervise([] { return 5; });
+    const SupervisedRun run = supervise([] { return 5; }, [] {});
     EXPECT_EQ(run.end, SupervisedRun::End::Finished);
     EXPECT_EQ(run.status, 5);
 }
 
 TEST(Supervisor, TellsWorkThatWasKilled) {
-    const SupervisedRun run = supervise([] { return ::raise(SIGKILL); });
+    bool tidy = false;
+    const SupervisedRun run = supervise([] { return ::raise(SIGKILL); }, [&tidy] { tidy = true; });
     EXPECT_EQ(run.end, SupervisedRun::End::Crashed);
+    EXPECT_TRUE(tidy);
 }
 
 TEST(Supervisor, AnInterruptEndsTheCommandsAndStartsNoMore) {
@@ -75,6 +80,20 @@ TEST(Supervisor, AnInterruptEndsTheCommandsAndStartsNoMore) {
             EXPECT_FALSE(lives(pid)) << signal;
         EXPECT_EQ(folder.content("second"), "(none)") << signal;
     }
+}
+
+TEST(Supervisor, KilledItselfItLeavesNoCommand) {
+    const TemporaryFolder folder;
+    const auto work = [&folder] {
+        return std::system(("cd " + folder.path() + "; echo $$ > ready; exec sleep 1000").c_str());
+    };
+    EXPECT_EQ(endAfter(SIGKILL, work, folder), -SIGKILL);
+    EXPECT_TRUE(comesTrue([&] { return !lives(folder.content("ready")); }));
+}
+
+TEST(Supervisor, ItsCommandsHaveNoTerminal) {
+    const auto work = [] { return std::system("exec 3</dev/tty") == 0 ? 1 : 0; };
+    EXPECT_EQ(supervise(work, [] {}).status, 0);
 }
 
 TEST(Supervisor, KillsACommandThatWillNotEnd) {

@@ -48,8 +48,11 @@ int CommandLineRun::operator()(const std::string& words) {
         .isRoot = isRoot,
         .lockPath = lockPath,
         .supervise =
-            [this](const std::function<int()>& work) {
-                return SupervisedRun{end, end == SupervisedRun::End::Finished ? work() : 0};
+            [this](const std::function<int()>& work, const std::function<void()>& tidyUp) {
+                if (end == SupervisedRun::End::Finished)
+                    return SupervisedRun{end, work()};
+                tidyUp();
+                return SupervisedRun{end};
             },
     };
     return runCommandLine(parseArguments(typed), world);
