@@ -11,13 +11,37 @@ require_model_library() {
         fail "$1 has a model name, which needs $DEVICE_BUILD/lib/device-model.so: build the target device-model"
 }
 
-# Runs a command on a device as one of its users and returns its status. A signal that ends this shell ends the device
-# too: unshare itself would sit a SIGTERM out.
+# The terminal of the caller never gets onto a device: whoever holds one can type into it. A terminal of the device's own
+# stands between, or none.
 run_device() {
-    local options
-    options=$(user_namespace)
-    # shellcheck disable=SC2086  # words, not one word
-    setpriv --pdeathsig KILL -- \
-        unshare $options --mount --pid --uts --ipc --net --propagation private --fork --kill-child -- \
-        bash "$here/power_on" "$@"
+    local start=(setpriv --pdeathsig KILL --) options
+    readarray -t options < <(user_namespace)
+    start+=(unshare "${options[@]}" --mount --pid --uts --ipc --net --propagation private --fork --kill-child --
+        bash "$here/power_on" "$@")
+    if [[ -t 0 && -t 1 && -t 2 ]]; then
+        run_at_terminal "${start[@]}"
+    else
+        run_in_session "${start[@]}"
+    fi
+}
+
+run_at_terminal() {
+    SHELL=/bin/bash setpriv --pdeathsig KILL -- \
+        script --quiet --return --flush --command "$(printf '%q ' "$@")" /dev/null
+}
+
+# Hands the caller's interrupt on. Any other signal that ends this shell ends the device too: unshare would sit it out.
+run_in_session() {
+    local session status
+    env --default-signal=INT,QUIT setpriv --pdeathsig KILL -- setsid "$@" <&0 &
+    session=$!
+    # shellcheck disable=SC2064  # the number as it is now
+    trap "kill -s INT -- -$session" INT
+    while :; do
+        status=0
+        wait "$session" || status=$?
+        kill -0 "$session" 2>/dev/null || break
+    done
+    trap - INT
+    return "$status"
 }

@@ -22,9 +22,11 @@ write_log() {
 
 lay_out() {
     local directory=$1
+    # What is set-user-ID on the device is so for the host's other users as well.
+    chmod 700 "$directory"
     echo 'Tarnwick sample device' >"$directory/device"
     : >"$directory/log"
-    mkdir "$directory"/{root,repository} "${device_folders[@]/#/$directory/}"
+    mkdir "$directory"/{root,repository} "${device_folders[@]/#/"$directory/"}"
     # shellcheck disable=SC2154  # set by device
     cp -R --no-preserve=mode,ownership "$here/content/system/." "$directory"
     chmod 755 "$directory"/sbin/*
@@ -42,7 +44,7 @@ build_package() {
 # Prints a package's entry in the list of a repository.
 describe_package() {
     local digest
-    digest=$(sha256sum "$1")
+    digest=$(sha256sum <"$1")
     dpkg-deb --field "$1"
     printf 'Filename: ./%s\nSize: %s\nSHA256: %s\n\n' "${1##*/}" "$(stat --format %s "$1")" "${digest%% *}"
 }
@@ -58,7 +60,7 @@ build_repository() {
 }
 
 run_layer() {
-    DEVICE_SHARE=$here/content run_device "$1" root bash "/mnt/share/$2.sh" "${@:3}"
+    DEVICE_SHARE=$here/content run_device "$1" root bash "/mnt/share/$2.sh" "${@:3}" </dev/null
 }
 
 fill_device() {
@@ -93,6 +95,7 @@ empty_device() {
 }
 
 wipe_device() {
+    [[ -r $1/factory.tar ]] || fail "$1/factory.tar is missing, without which nothing would be left"
     empty_device "$1"
     as_device_root tar -C "$1" -xpf "$1/factory.tar" --numeric-owner
     write_log "$1" wipe

@@ -48,7 +48,7 @@ test_escapes() {
     refuse "a second chroot does not lead out" on_phone perl -e '
         mkdir "/var/jail"; chroot "/var/jail" or die; chdir ".." for 1 .. 64; chroot "."; exit !-e $ARGV[0]' \
         "$workspace/secret"
-    refuse "a folder that the caller has open stays outside" on_phone test -e /proc/self/fd/7/secret 7<"$workspace"
+    refuse "a folder that the caller has open stays outside" on_phone test -e /proc/self/fd/300/secret 300<"$workspace"
     # shellcheck disable=SC2016
     on_phone sh -c 'for name in mount.tmpfs mount.devpts setpriv env perl mkdir; do
         printf "#!/bin/sh\necho \$0 >>/var/planted\n" >/sbin/$name; chmod +x /sbin/$name; done'

@@ -66,6 +66,15 @@ test_sockets() {
     refuse "the device cannot take a socket away" "${caller[@]}" "$repository/device/device" boot "$phone" rm "$x_socket"
 }
 
+# Whoever holds a terminal can type into it: the host's shell would run what a device typed.
+test_terminal() {
+    local typing='for (split //, "typed\n") { ioctl STDIN, 0x5412, $_ }'
+    same "nothing on the device can type into the caller's terminal" "[]" "$(
+        TYPING=$typing DEVICE="$repository/device/device boot $phone" setsid script --quiet --return --command '
+            $DEVICE perl -e "$TYPING" >/dev/null; $DEVICE perl -e "$TYPING" >/dev/null 2>&1
+            read -r -t 0.2 line; echo "[$line]"' /dev/null < <(sleep 5) | tr -d "\r" | tail -n 1)"
+}
+
 [[ ! -e $x_socket ]] || skip "display $display is taken"
 trap stop_desktop EXIT
 start_desktop
@@ -75,6 +84,7 @@ caller=(env XDG_RUNTIME_DIR="$runtime" DISPLAY=":$display.0" XAUTHORITY="$worksp
     AT_SPI_BUS_ADDRESS="unix:path=$runtime/reader")
 plain="HOME LANG LOGNAME PATH SHELL TERM USER XDG_RUNTIME_DIR"
 test_sockets
+test_terminal
 same "no other variable of the caller's comes along" \
     "AT_SPI_BUS_ADDRESS DBUS_SESSION_BUS_ADDRESS DISPLAY HOME LANG LOGNAME NO_COLOR PATH SHELL TERM USER WAYLAND_DISPLAY XAUTHORITY XDG_RUNTIME_DIR" \
     "$(names_of_environment "${caller[@]}")"
