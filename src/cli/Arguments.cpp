@@ -8,49 +8,51 @@ namespace tarnwick {
 
 namespace {
 
-const std::map<std::string, bool Arguments::*> flags = {
-    {"--yes", &Arguments::yes},         {"--dry-run", &Arguments::dryRun},
-    {"--json", &Arguments::json},       {"--verbose", &Arguments::verbose},
-    {"--version", &Arguments::version}, {"--help", &Arguments::help},
-    {"-h", &Arguments::help},
-};
-
 const std::map<std::string, Offer> answers = {
     {"respring", Offer::Respring}, {"reboot", Offer::Reboot}, {"nothing", Offer::None}};
 
-template <class Map>
-std::vector<std::string> keysOf(const Map& map) {
-    std::vector<std::string> keys;
-    for (const auto& [key, value] : map)
-        keys.push_back(key);
-    return keys;
+std::vector<std::string> answerWords() {
+    std::vector<std::string> words;
+    for (const auto& [word, offer] : answers)
+        words.push_back(word);
+    return words;
 }
 
-std::string unknownOption(const std::string& typed) {
-    std::vector<std::string> options = keysOf(flags);
-    options.emplace_back("--then");
-    return unknownWord("option", typed, options);
+std::vector<std::string> optionWords() {
+    std::vector<std::string> words;
+    for (const Option& option : optionTable())
+        words.push_back(option.word);
+    return words;
+}
+
+bool Arguments::*flagOf(const std::string& word) {
+    for (const Option& option : optionTable())
+        if (word == option.word || (!word.empty() && word == option.shortWord))
+            return option.flag;
+    return nullptr;
 }
 
 void setAnswer(Arguments& arguments, const std::string& answer) {
     const auto found = answers.find(answer);
     if (found == answers.end())
-        arguments.fault = unknownWord("answer", answer, keysOf(answers));
+        arguments.fault = unknownWord("answer", answer, answerWords());
     else
         arguments.then = found->second;
 }
 
 }  // namespace
 
-const std::vector<OptionHelp>& optionHelp() {
-    static const std::vector<OptionHelp> options = {
-        {"--yes", "answer confirmations with yes"},
-        {"--then respring|reboot|nothing", "answer the offer after a restore"},
-        {"--dry-run", "print the command lines and file changes in order and do none of them"},
-        {"--json", "print one object a line"},
-        {"--verbose", "show what the started commands print"},
-        {"-h, --help", "print this help"},
-        {"--version", "print the version"},
+const std::vector<Option>& optionTable() {
+    static const std::vector<Option> options = {
+        {"--yes", "-y", "", "answer confirmations with yes", &Arguments::yes},
+        {"--then", "", "respring|reboot|nothing", "answer the offer after a restore", nullptr},
+        {"--dry-run", "-n", "",
+         "print the command lines and file changes in order and do none of them",
+         &Arguments::dryRun},
+        {"--json", "", "", "print one object a line", &Arguments::json},
+        {"--verbose", "-v", "", "show what the started commands print", &Arguments::verbose},
+        {"--help", "-h", "", "print this help", &Arguments::help},
+        {"--version", "", "", "print the version", &Arguments::version},
     };
     return options;
 }
@@ -66,8 +68,8 @@ Arguments parseArguments(const std::vector<std::string>& typed) {
     const std::string thenIs = "--then=";
     for (std::size_t index = 0; index < typed.size() && !arguments.fault; ++index) {
         const std::string& word = typed[index];
-        if (const auto flag = flags.find(word); flag != flags.end()) {
-            arguments.*flag->second = true;
+        if (bool Arguments::*flag = flagOf(word)) {
+            arguments.*flag = true;
         } else if (word == "--then") {
             setAnswer(arguments, index + 1 < typed.size() ? typed[++index] : "");
         } else if (word.starts_with(thenIs)) {
@@ -78,7 +80,7 @@ Arguments parseArguments(const std::vector<std::string>& typed) {
                                    typed.end());
             return arguments;
         } else if (word.starts_with("-")) {
-            arguments.fault = unknownOption(word);
+            arguments.fault = unknownWord("option", word, optionWords());
         } else {
             arguments.words.push_back(word);
         }

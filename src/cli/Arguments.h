@@ -8,13 +8,6 @@
 
 namespace tarnwick {
 
-// An option as the help shows it.
-struct OptionHelp {
-    std::string words;
-    std::string purpose;
-};
-const std::vector<OptionHelp>& optionHelp();
-
 // What was typed, taken apart. Options may stand anywhere; "--" ends them.
 struct Arguments {
     std::vector<std::string> words;  // the command and what follows it
@@ -29,6 +22,16 @@ struct Arguments {
     // What is wrong with the options; the other fields are then not complete.
     std::optional<std::string> fault;
 };
+
+// An option, for the parser and the help alike. One without a flag takes a value.
+struct Option {
+    std::string word;
+    std::string shortWord;
+    std::string values;
+    std::string purpose;
+    bool Arguments::*flag;
+};
+const std::vector<Option>& optionTable();
 
 // Takes the arguments without the program's name.
 Arguments parseArguments(const std::vector<std::string>& typed);

@@ -38,8 +38,10 @@ Rows commandRows(const ItemCatalogue& catalogue) {
 
 Rows optionRows() {
     Rows rows;
-    for (const OptionHelp& option : optionHelp())
-        rows.emplace_back(option.words, option.purpose);
+    for (const Option& option : optionTable())
+        rows.emplace_back((option.shortWord.empty() ? "" : option.shortWord + ", ") + option.word +
+                              (option.values.empty() ? "" : " " + option.values),
+                          option.purpose);
     return rows;
 }
 

@@ -25,10 +25,10 @@ struct Folder {
 struct Description {
     std::string key;
     std::vector<Folder> folders;
-    std::string backupNoun;
-    std::string restoreNoun;
-    std::string sizeButtonTitle;
-    std::string sizeResultName;
+    std::string noun;  // in every text, unless another is given
+    std::string restoreNoun = noun;
+    std::string sizeButtonTitle = noun;
+    std::string sizeResultName = sizeButtonTitle;
     std::string application = {};
     std::string owner = "mobile:mobile";
     Offer offer = Offer::None;
@@ -65,84 +65,56 @@ std::vector<Description> descriptions() {
     return {
         {.key = "TweaksPrefs",
          .folders = {preferencesFolder()},
-         .backupNoun = "Tweaks' Preferences",
-         .restoreNoun = "Tweaks' Preferences",
-         .sizeButtonTitle = "Tweaks' Preferences",
+         .noun = "Tweaks' Preferences",
          .sizeResultName = "Preferences",
          .owner = ""},
         {.key = "Accounts",
          .folders = {libraryFolder("Accounts", "Accounts")},
-         .backupNoun = "Accounts",
-         .restoreNoun = "Accounts",
-         .sizeButtonTitle = "Accounts",
-         .sizeResultName = "Accounts",
+         .noun = "Accounts",
          .offer = Offer::Reboot},
         {.key = "Calendar",
          .folders = {libraryFolder("Calendar", "Calendar")},
-         .backupNoun = "Calendar",
-         .restoreNoun = "Calendar",
+         .noun = "Calendar",
          .sizeButtonTitle = "Calendar Events",
-         .sizeResultName = "Calendar Events",
          .application = "MobileCal"},
         {.key = "CallHistory",
          .folders = {callHistoryFolder()},
-         .backupNoun = "Call History",
-         .restoreNoun = "Call History",
-         .sizeButtonTitle = "Call History",
-         .sizeResultName = "Call History",
+         .noun = "Call History",
          .application = "MobilePhone",
          .owner = "_wireless:_wireless",
          .offer = Offer::Reboot},
         {.key = "Contacts",
          .folders = {libraryFolder("AddressBook", "Contacts")},
-         .backupNoun = "Contacts",
-         .restoreNoun = "Contacts",
-         .sizeButtonTitle = "Contacts",
-         .sizeResultName = "Contacts",
+         .noun = "Contacts",
          .application = "Contacts"},
         {.key = "Messages",
          .folders = {libraryFolder("SMS", "Messages/iMessages")},
-         .backupNoun = "Messages/iMessages",
-         .restoreNoun = "Messages/iMessages",
+         .noun = "Messages/iMessages",
          .sizeButtonTitle = "Messages / iMessages",
-         .sizeResultName = "Messages / iMessages",
          .application = "MobileSMS",
          .offer = Offer::Reboot},
         {.key = "Notes",
          .folders = {libraryFolder("Notes", "Notes")},
-         .backupNoun = "Notes",
-         .restoreNoun = "Notes",
-         .sizeButtonTitle = "Notes",
-         .sizeResultName = "Notes",
+         .noun = "Notes",
          .application = "MobileNotes"},
         {.key = "Photos",
          .folders = {{.source = "/var/mobile/Media/DCIM", .errorNoun = "Photos and Videos"},
                      {.source = "/var/mobile/Media/PhotoData", .errorNoun = "PhotoData"}},
-         .backupNoun = "Photos and Videos",
+         .noun = "Photos and Videos",
          .restoreNoun = "Photos",
          .sizeButtonTitle = "Photos / Videos",
-         .sizeResultName = "Photos / Videos",
          .application = "MobileSlideShow"},
         {.key = "Safari",
          .folders = {libraryFolder("Safari", "Safari Bookmarks")},
-         .backupNoun = "Safari Bookmarks",
-         .restoreNoun = "Safari Bookmarks",
-         .sizeButtonTitle = "Safari Bookmarks",
-         .sizeResultName = "Safari Bookmarks",
+         .noun = "Safari Bookmarks",
          .application = "MobileSafari"},
         {.key = "Springboard",
          .folders = {springBoardFolder()},
-         .backupNoun = "SpringBoard",
-         .restoreNoun = "SpringBoard",
-         .sizeButtonTitle = "SpringBoard",
-         .sizeResultName = "SpringBoard",
+         .noun = "SpringBoard",
          .offer = Offer::Respring},
         {.key = "Voicemails",
          .folders = {libraryFolder("Voicemail", "Voicemails")},
-         .backupNoun = "Voicemails",
-         .restoreNoun = "Voicemails",
-         .sizeButtonTitle = "Voicemails",
-         .sizeResultName = "Voicemails",
+         .noun = "Voicemails",
          .application = "MobilePhone",
          .offer = Offer::Reboot},
     };
@@ -216,7 +188,7 @@ void addSizing(BackupItem& item, const Folder& folder) {
 BackupItem itemFrom(const Description& description) {
     BackupItem item;
     item.key = description.key;
-    item.successTitle = description.backupNoun + " Backup";
+    item.successTitle = description.noun + " Backup";
     item.restoreTitle = description.restoreNoun + " Restoration";
     item.missingBackupMessage =
         "You have no " + description.restoreNoun + " backup, there is nothing to do !";

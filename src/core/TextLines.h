@@ -18,9 +18,8 @@ std::size_t characterLength(std::string_view text, std::size_t position);
 bool isValidUtf8(std::string_view text);
 
 // Splits valid UTF-8 at each single newline character (U+000A to U+000D, U+0085, U+2028, U+2029),
-// so that
-// "\r\n" gives an empty line between and a last newline an empty last line. An empty text is one
-// empty line, no text is no line. The lines point into the text, which must outlive them.
+// so that "\r\n" gives an empty line between and a last newline an empty last line. An empty text
+// is one empty line, no text is no line. The lines point into the text, which must outlive them.
 Lines splitLines(const std::optional<std::string>& text);
 
 // Joins with one line feed between; none after the last line.

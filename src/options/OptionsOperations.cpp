@@ -46,8 +46,7 @@ std::string OptionsOperations::freePrivateSpace() const {
 void OptionsOperations::recreateApplicationFolders() {
     ask("Create Application Folders",
         "Do you have removed application Folders ? Press All Folders to recreate them, Partially "
-        "to "
-        "choose which folder to recreate or Cancel to close this window",
+        "to choose which folder to recreate or Cancel to close this window",
         "Cancel", {"All Folders", "Partially"}, RecreateFoldersTag);
 }
 
@@ -62,16 +61,14 @@ void OptionsOperations::chooseFolder(int) {
 void OptionsOperations::removeSafeguard() {
     ask("Remove Backup Folders",
         "Do you want to remove your Safeguard ? Do this only if you don't need to restore "
-        "something "
-        "and if you need some disk space !",
+        "something and if you need some disk space !",
         "Cancel", {"Yes"}, RemoveSafeguardTag);
 }
 
 void OptionsOperations::removeSourcesList() {
     ask("Remove TWKSources",
         "Because Tarnwick now restore sources in a new list file, sources added by this way can't "
-        "be "
-        "deleted from Cydia. Do you want to delete them ? You can also go to "
+        "be deleted from Cydia. Do you want to delete them ? You can also go to "
         "/etc/apt/sources.list.d/ and edit TWKSources.list manually to only delete one source !",
         "Cancel", {"Delete it"}, RemoveSourcesListTag);
 }

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Each verb starts the lines and makes the changes of the table, and no other; --dry-run tells them beforehand.
+# Each verb starts the lines and makes the changes of the table, and no other.
 # shellcheck source=tests/device/run_lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/run_lib.sh"
 
@@ -58,7 +58,7 @@ on_phone tarnwick folders >/dev/null
 while read -r -a words <&3; do
     verb="${words[*]}"
     prepare_for "$verb"
-    same "$verb: the rehearsal tells the table's lines" "$(told "$verb")" "$(on_phone tarnwick "${words[@]}" --dry-run)"
+    # A reboot would take the trace along.
     [[ $verb != reboot ]] || continue
     same "$verb: the run starts them and no other" "$(told "$verb" | as_made "$verb")" "$(trace "${words[@]}")"
 done 3< <(scenes)
