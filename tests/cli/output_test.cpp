@@ -31,14 +31,15 @@ TEST(ProgressLine, DrawsOnATerminalOnly) {
         line.setItem("notes", 7, 11);
         line.without([] {});
     }
-    char text[1000];
-    const ssize_t count = ::read(master, text, sizeof text);
     ::close(terminal);
+    std::string text;
+    char part[100];
+    for (ssize_t count = 0; (count = ::read(master, part, sizeof part)) > 0;)
+        text.append(part, static_cast<std::size_t>(count));
     ::close(master);
     const std::string erase = "\r\033[K";
-    EXPECT_EQ(std::string(text, static_cast<std::size_t>(count)),
-              erase + "Backup in progress... 0:00" + erase +
-                  "Backup in progress... notes (7/11) 0:00" + erase + erase);
+    EXPECT_EQ(text, erase + "Backup in progress... 0:00" + erase +
+                        "Backup in progress... notes (7/11) 0:00" + erase + erase);
 
     const int file = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
     ProgressLine quiet(file);
