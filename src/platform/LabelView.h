@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QQuickPaintedItem>
+#include <QString>
+
+namespace tarnwick {
+
+// Centred text, painted at the screen's own resolution. Main thread.
+class LabelView : public QQuickPaintedItem {
+    Q_OBJECT
+
+public:
+    explicit LabelView(QQuickItem* parent);
+
+    const QString& text() const { return text_; }
+    void setText(const QString& text);
+    void setFont(const QFont& font);
+    void setColor(const QColor& color);
+
+    // Whole points that the text takes on one line; nothing if it is empty.
+    QSizeF sizeOnOneLine() const;
+    // Whole points that the text takes when it is wrapped to the width, cut at the height.
+    QSizeF sizeWithin(const QSizeF& limit) const;
+
+    void paint(QPainter* painter) override;
+
+private:
+    QString text_;
+    QFont font_;
+    QColor color_ = Qt::black;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QPauseAnimation>
+#include <functional>
+
+namespace tarnwick {
+
+// Waiting and measuring on the clock of the animations, so that a test which advances that clock
+// advances these as well. Main thread.
+
+// A one-shot timer. Starting it again forgets the task that waited before.
+class Pause : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Pause(QObject* parent);
+
+    void start(double seconds, std::function<void()> task);
+    void cancel();
+    bool isRunning() const;
+
+private:
+    QPauseAnimation animation_;
+    std::function<void()> task_;
+};
+
+// Tells the seconds since it was started.
+class Stopwatch : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Stopwatch(QObject* parent);
+
+    void start();
+    void stop();
+    bool isRunning() const;
+    double seconds() const;
+
+private:
+    QPauseAnimation animation_;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QColor>
+#include <QQuickPaintedItem>
+
+namespace tarnwick {
+
+// A determinate indicator: a horizontal bar in a capsule. Every change redraws it. Main thread.
+class BarProgressView : public QQuickPaintedItem {
+    Q_OBJECT
+
+public:
+    explicit BarProgressView(QQuickItem* parent = nullptr);
+
+    double progress() const { return progress_; }
+    void setProgress(double progress);  // 0.0 to 1.0
+    void setLineColor(const QColor& color);
+    void setProgressColor(const QColor& color);
+    void setProgressRemainingColor(const QColor& color);
+
+    void paint(QPainter* painter) override;
+
+private:
+    double progress_ = 0.0;
+    QColor lineColor_ = Qt::white;
+    QColor progressColor_ = Qt::white;
+    QColor progressRemainingColor_ = Qt::transparent;
+};
+
+}  // namespace tarnwick

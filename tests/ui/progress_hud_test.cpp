@@ -1,0 +1,275 @@
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QQuickWindow>
+#include <QSemaphore>
+#include <thread>
+
+#include "platform/PlatformQueues.h"
+#include "support/SteppedClock.h"
+#include "ui/BarProgressView.h"
+#include "ui/ProgressHUD.h"
+#include "ui/RoundProgressView.h"
+
+namespace tarnwick::testing {
+namespace {
+
+// A screen of a phone, with a clock that stands still.
+class ProgressHUDTest : public ::testing::Test {
+protected:
+    ProgressHUDTest() {
+        window.resize(375, 667);
+        view.setParentItem(window.contentItem());
+        view.setSize({375, 667});
+    }
+
+    QQuickWindow window;
+    QQuickItem view;
+    SteppedClock clock;
+};
+
+TEST_F(ProgressHUDTest, FadesInAndOutAndLeaves) {
+    const QPointer<ProgressHUD> hud = ProgressHUD::showHUDAddedTo(&view, Animated::Yes);
+    EXPECT_EQ(hud->opacity(), 0);
+    clock.advance(0.15);
+    EXPECT_NEAR(hud->opacity(), 0.5, 0.1);
+    clock.advance(0.2);
+    EXPECT_EQ(hud->opacity(), 1);
+    EXPECT_EQ(ProgressHUD::HUDForView(&view), hud);
+    EXPECT_TRUE(ProgressHUD::hideHUDForView(&view, Animated::Yes));
+    clock.advance(0.29);
+    EXPECT_TRUE(hud && hud->parentItem() == &view && hud->opacity() < 0.1);
+    clock.advance(0.02);
+    EXPECT_TRUE(hud.isNull());
+    EXPECT_FALSE(ProgressHUD::hideHUDForView(&view, Animated::Yes));
+}
+
+TEST_F(ProgressHUDTest, HiddenInTheTurnInWhichItWasShown) {
+    const QPointer<ProgressHUD> fading = ProgressHUD::showHUDAddedTo(&view, Animated::Yes);
+    fading->hide(Animated::Yes);
+    clock.advance(0.2);
+    EXPECT_TRUE(fading && fading->parentItem() == &view);
+    clock.advance(0.15);
+    EXPECT_TRUE(fading.isNull());
+    ProgressHUD::showHUDAddedTo(&view, Animated::Yes)->hide(Animated::No);
+    EXPECT_EQ(ProgressHUD::HUDForView(&view), nullptr);
+}
+
+TEST_F(ProgressHUDTest, ShownAgainWhileItFadesItStays) {
+    const QPointer<ProgressHUD> hud = ProgressHUD::showHUDAddedTo(&view, Animated::No);
+    hud->hide(Animated::Yes);
+    clock.advance(0.15);
+    const double before = hud->opacity();
+    hud->show(Animated::Yes);
+    EXPECT_EQ(hud->opacity(), before);
+    clock.advance(1.0);
+    ASSERT_TRUE(hud);
+    EXPECT_EQ(hud->opacity(), 1);
+}
+
+TEST_F(ProgressHUDTest, ZoomsTheWayOfItsType) {
+    for (const auto type : {ProgressHUD::AnimationZoomDown, ProgressHUD::AnimationZoomUp}) {
+        const bool down = type == ProgressHUD::AnimationZoomDown;
+        ProgressHUD hud(&view);
+        hud.setParentItem(&view);
+        hud.animationType = type;
+        hud.show(Animated::Yes);
+        EXPECT_EQ(hud.scale(), down ? 1.5 : 0.5);
+        clock.advance(0.4);
+        EXPECT_EQ(hud.scale(), 1.0);
+        hud.hide(Animated::Yes);
+        clock.advance(0.29);
+        EXPECT_NEAR(hud.scale(), down ? 0.5 : 1.5, 0.05);
+    }
+}
+
+TEST_F(ProgressHUDTest, TheLastOneAddedIsTheViewsHUD) {
+    ProgressHUD* first = ProgressHUD::showHUDAddedTo(&view, Animated::No);
+    ProgressHUD* second = ProgressHUD::showHUDAddedTo(&view, Animated::No);
+    EXPECT_EQ(ProgressHUD::HUDForView(&view), second);
+    EXPECT_EQ(ProgressHUD::allHUDsForView(&view), (std::vector{first, second}));
+    EXPECT_EQ(ProgressHUD::hideAllHUDsForView(&view, Animated::No), 2);
+    EXPECT_EQ(ProgressHUD::hideAllHUDsForView(&view, Animated::No), 0);
+}
+
+TEST_F(ProgressHUDTest, StaysForItsMinimumShowTime) {
+    const QPointer<ProgressHUD> hud = ProgressHUD::showHUDAddedTo(&view, Animated::No);
+    hud->minShowTime = 1.0;
+    clock.advance(0.3);
+    hud->hide(Animated::No);
+    clock.advance(0.65);
+    ASSERT_TRUE(hud && hud->isVisible());
+    clock.advance(0.1);
+    EXPECT_TRUE(hud.isNull());
+}
+
+TEST_F(ProgressHUDTest, AppearsAfterItsGraceTimeOnlyForARunningTask) {
+    ProgressHUD unbound(&view);
+    unbound.setParentItem(&view);
+    unbound.graceTime = 0.5;
+    unbound.show(Animated::No);
+    clock.advance(1.0);
+    EXPECT_FALSE(unbound.isVisible());
+
+    for (const bool longTask : {true, false}) {
+        ProgressHUD hud(&view);
+        hud.setParentItem(&view);
+        hud.graceTime = 0.5;
+        QSemaphore done;
+        int completions = 0;
+        hud.showAnimatedWhileExecutingBlock(
+            Animated::No, [&done] { done.acquire(); }, nullptr, [&] { ++completions; });
+        clock.advance(longTask ? 0.6 : 0.2);
+        EXPECT_EQ(hud.isVisible(), longTask);
+        done.release();
+        while (hud.taskInProgress)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        clock.advance(1.0);
+        EXPECT_FALSE(hud.isVisible());
+        EXPECT_EQ(completions, 1);
+    }
+}
+
+class Listener : public QObject, public ProgressHUDDelegate {
+public:
+    void hudWasHidden(ProgressHUD*) override { ++calls; }
+    int calls = 0;
+};
+
+TEST_F(ProgressHUDTest, RunsAMethodOnItsThreadAndTellsItsDelegateWeakly) {
+    Listener listener;
+    ProgressHUD hud(&view);
+    hud.setParentItem(&view);
+    hud.setDelegate(&listener);
+    std::thread::id used;
+    hud.showWhileExecuting([&used] { used = std::this_thread::get_id(); }, Animated::No);
+    EXPECT_TRUE(hud.isVisible());
+    while (hud.taskInProgress)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    EXPECT_NE(used, std::this_thread::get_id());
+    EXPECT_EQ(listener.calls, 1);
+    {
+        Listener gone;
+        hud.setDelegate(&gone);
+    }
+    hud.show(Animated::No);
+    hud.hideAfterDelay(Animated::No, 0.5);
+    clock.advance(0.4);
+    EXPECT_TRUE(hud.isVisible());
+    clock.advance(0.2);
+    EXPECT_FALSE(hud.isVisible());
+}
+
+TEST_F(ProgressHUDTest, TakesChangesFromManyThreads) {
+    ProgressHUD* hud = ProgressHUD::showHUDAddedTo(&view, Animated::No);
+    std::vector<std::thread> threads;
+    for (int number = 0; number < 8; ++number)
+        threads.emplace_back([hud, number] {
+            for (int turn = 0; turn < 50; ++turn) {
+                hud->setLabelText(QString::number(number));
+                hud->setProgress(turn / 50.0);
+                hud->setMode(static_cast<ProgressHUD::Mode>((number + turn) % 6));
+            }
+        });
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(hud->labelText(), "");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(hud->labelText().size(), 1);
+}
+
+TEST_F(ProgressHUDTest, EachModeHasItsIndicator) {
+    ProgressHUD hud(&view);
+    hud.setParentItem(&view);
+    hud.setProgress(0.25);
+    EXPECT_NE(qobject_cast<ActivityIndicatorView*>(hud.indicator()), nullptr);
+    hud.setMode(ProgressHUD::ModeBar);
+    EXPECT_EQ(qobject_cast<BarProgressView*>(hud.indicator())->progress(), 0.25);
+    hud.setMode(ProgressHUD::ModePie);
+    auto* round = qobject_cast<RoundProgressView*>(hud.indicator());
+    EXPECT_FALSE(round->isAnnular());
+    hud.setMode(ProgressHUD::ModeRing);
+    EXPECT_EQ(hud.indicator(), round);
+    EXPECT_TRUE(round->isAnnular());
+    QQuickItem custom;
+    hud.setCustomView(&custom);
+    hud.setMode(ProgressHUD::ModeCustomView);
+    EXPECT_EQ(hud.indicator(), &custom);
+    hud.setMode(ProgressHUD::ModeTextOnly);
+    EXPECT_EQ(hud.indicator(), nullptr);
+    EXPECT_EQ(custom.parentItem(), nullptr);
+}
+
+TEST(ProgressHUDLayout, StacksItsPartsInTheBox) {
+    const auto text = [](double width, double height) {
+        return [=](const QSizeF& limit) { return QSizeF(width, height).boundedTo(limit); };
+    };
+    struct Row {
+        const char* name;
+        HUDContents contents;
+        QRectF box;
+        double labelY;
+        double detailsY;
+    };
+    const QSizeF phone(375, 667);
+    const Row rows[] = {
+        {"the indicator alone has no gaps",
+         {.bounds = phone, .indicator = {37, 37}},
+         {149, 295, 77, 77},
+         352,
+         352},
+        {"indicator, line and text",
+         {.bounds = phone, .indicator = {37, 37}, .label = {100, 20}, .details = text(150, 30)},
+         {93, 266, 190, 135},
+         327,
+         351},
+        {"a line too wide is cut",
+         {.bounds = phone, .label = {500, 20}},
+         {20, 304, 335, 60},
+         324,
+         344},
+        {"shifted",
+         {.bounds = phone, .indicator = {37, 37}, .offset = {10, -20}},
+         {159, 275, 77, 77},
+         332,
+         332},
+        {"square",
+         {.bounds = phone, .label = {160, 20}, .square = true},
+         {88, 234, 200, 200},
+         324,
+         344},
+        {"square only where it fits",
+         {.bounds = {375, 150}, .label = {160, 20}, .square = true},
+         {88, 45, 200, 60},
+         65,
+         85},
+        {"at least so large",
+         {.bounds = phone, .indicator = {37, 37}, .minSize = {120, 80}},
+         {128, 294, 120, 80},
+         352,
+         352},
+    };
+    for (const Row& row : rows) {
+        const HUDLayout layout = layOut(row.contents);
+        EXPECT_EQ(layout.box, row.box) << row.name;
+        EXPECT_EQ(layout.label.y(), row.labelY) << row.name;
+        EXPECT_EQ(layout.details.y(), row.detailsY) << row.name;
+    }
+}
+
+TEST(PlatformQueues, ServesWaitingHandOversUntilItsThreadsAreDone) {
+    int served = 0;
+    {
+        PlatformQueues queues;
+        for (int number = 0; number < 8; ++number)
+            queues.runInBackground([&] {
+                for (int turn = 0; turn < 20; ++turn)
+                    queues.performOnMainThreadAndWait([&served] { ++served; });
+            });
+        queues.performOnMainThreadAndWait([&served] { ++served; });
+    }
+    EXPECT_EQ(served, 161);
+}
+
+}  // namespace
+}  // namespace tarnwick::testing
