@@ -49,14 +49,8 @@ test_reboot() {
     refuse "mobile may not write what is on record" device boot "$phone" --user mobile sh -c 'echo >>/run/device/log'
 }
 
-test_missing_application() {
-    on_phone rm -rf /Applications/backboardd.app /Applications/MobileSMS.app
-    same "a device without some applications starts with the others" 8 "$(on_phone ps -u mobile -o comm= | wc -l)"
-}
-
 device new "$phone"
 test_every_application_can_be_stopped
 test_respring
 test_host_process_of_the_same_name
 test_reboot
-test_missing_application

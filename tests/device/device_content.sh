@@ -22,20 +22,12 @@ SCRIPT
     same "no journal is left" "" "$(on_phone find /var -name '*-wal' -o -name '*-journal' -o -name '*-shm')"
 }
 
-# has FACT FIND-EXPRESSION...: some file of the owner's is like that.
-has() {
-    check "there is $1" on_phone sh -c 'find /var/mobile/Library /var/mobile/Media "$@" | grep -q .' find "${@:2}"
-}
-
 test_awkward_files() {
-    has "a name with a blank" -name '* *'
-    has "a name with a single quote" -name "*'*"
-    has "a name with double quotes" -name '*"*"*'
-    has "a name with a letter outside ASCII" -name '*ä*'
-    has "a name that begins with a dash" -name '-*'
-    has "an empty folder" -type d -empty
-    has "an empty file" -type f -empty
-    has "a file that only its owner may read" -type f -perm 600
+    local like
+    for like in '-name "* *"' "-name \"*'*\"" "-name '*\"*\"*'" '-name "*ä*"' '-name "-*"' '-type d -empty' '-type f -empty' \
+        '-perm 600'; do
+        check "there is a file like $like" on_phone sh -c "find /var/mobile/Library /var/mobile/Media $like | grep -q ."
+    done
     same "all of them are files and folders" "" \
         "$(on_phone find /var/mobile /var/wireless ! -type f ! -type d)"
     same "everything is its owner's" "" "$(on_phone sh -c \

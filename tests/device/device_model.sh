@@ -16,16 +16,7 @@ test_with_model() {
     DEVICE_BUILD=$workspace refuse "without the library such a device does not start" on_phone true
 }
 
-test_unusable_names() {
-    local name
-    for name in '' 'a b' $'iPad\x07' "$(printf 'x%.0s' {1..70})"; do
-        printf '%s' "$name" >"$phone/model"
-        same "a file with an unusable name changes nothing: $(printf %q "$name")" "$(uname -m)" "$(on_phone uname -m)"
-    done
-}
-
 device new "$phone" --model iPhone8,2
 test_with_model
-test_unusable_names
 device new "$workspace/plain"
 same "a device without a model reports the machine" "$(uname -m)" "$(device boot "$workspace/plain" uname -m)"

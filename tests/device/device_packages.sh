@@ -13,12 +13,6 @@ test_install_and_remove() {
     check "the database is sound" on_phone sh -c 'test -z "$(dpkg --audit)"'
 }
 
-# The sources that the owner added lead nowhere; the one that works must work on.
-test_update() {
-    check "the lists can be updated" on_phone apt-get update
-    check "packages are still known afterwards" on_phone apt-get -y install --reinstall org.example.tidepool
-}
-
 test_selections_after_a_wipe() {
     local selections
     selections=$(on_phone dpkg --get-selections)
@@ -34,5 +28,4 @@ same "the owner's packages are installed, the host's are not" \
     "org.example.base org.example.dockclock org.example.lantern org.example.ringtones org.example.substrate org.example.tidepool" \
     "$(installed)"
 test_install_and_remove
-test_update
 test_selections_after_a_wipe

@@ -18,6 +18,6 @@ same "an older archive counts as a success, a missing one is told" "Notes Backup
 Accounts Backup Error: There was an error during the Accounts backup. Nothing has been done. Please try again !
 status 1" "$(on_phone bash -c 'tarnwick save notes accounts 2>&1; echo "status $?"')"
 same "the older archive is whole" "Notes.zip: good" "$(on_phone tarnwick check)"
-on_phone rm /var/mobile/Media/DCIM/full
-same "the next save works" "All in One Backup: Backup done !" "$(on_phone tarnwick save all)"
+device wipe "$phone"
+same "after a wipe the next save works" "All in One Backup: Backup done !" "$(on_phone tarnwick save all)"
 same "and every archive is whole" 12 "$(good_archives)"

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "backup/BackupOperations.h"
+#include "core/SafeguardPaths.h"
 #include "options/OptionsOperations.h"
 #include "restore/RestoreOperations.h"
 #include "support/Diary.h"
@@ -23,15 +24,12 @@ struct Operations {
     const BackupItem& item(const std::string& key) const { return *catalogue.find(key); }
 };
 
-inline const std::string library = "/var/mobile/Library/Preferences/Tarnwick/TarnwickLibrary/";
-inline const std::string savedList =
-    "/var/mobile/Library/Preferences/Tarnwick/CydiaSources/sources.list";
-inline const std::string savedCydia =
-    "/var/mobile/Library/Preferences/Tarnwick/CydiaSources/cydia.list";
-inline const std::string savedPackages =
-    "/var/mobile/Library/Preferences/Tarnwick/CydiaPackages/installed-packages.txt";
-inline const std::string cache = "/var/mobile/Library/Caches/com.saurik.Cydia/sources.list";
-inline const std::string ownList = "/etc/apt/sources.list.d/TWKSources.list";
-inline const std::string cydiaList = "/etc/apt/sources.list.d/cydia.list";
+inline const std::string library = std::string(paths::archiveFolder) + "/";
+inline const std::string savedList(paths::savedSourcesList);
+inline const std::string savedCydia(paths::savedCydiaList);
+inline const std::string savedPackages(paths::savedPackages);
+inline const std::string cache(paths::cydiaCacheList);
+inline const std::string ownList(paths::ownAptList);
+inline const std::string cydiaList(paths::cydiaAptList);
 
 }  // namespace tarnwick::testing
