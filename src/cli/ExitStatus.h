@@ -5,8 +5,9 @@ namespace tarnwick {
 // What the command ends with.
 enum ExitStatus : int {
     AllDone = 0,
-    NotAllDone =
-        1,  // an archive or a backup is missing or damaged, or a question was answered with no
+    // An archive or a backup is missing or damaged, a question was answered with no, or the run
+    // failed.
+    NotAllDone = 1,
     WrongUsage = 2,
     RunUnderWay = 3,
     NotRoot = 4,

@@ -64,17 +64,14 @@ Offer answerTo(Session& session, Offer offer) {
         return *session.arguments.then;
     if (session.arguments.dryRun || !session.questions.canAsk())
         return Offer::None;
-    const bool agreed =
-        session.questions.confirm(offer == Offer::Reboot ? "Reboot now" : "Respring now");
-    return agreed ? offer : Offer::None;
+    return session.questions.confirm(wordsOf(offer).buttons.front()) ? offer : Offer::None;
 }
 
 void follow(Session& session, Offer offer) {
     if (offer == Offer::None)
         return;
     Alert answered;
-    answered.tag =
-        offer == Offer::Reboot ? RestoreOperations::RebootTag : RestoreOperations::RespringTag;
+    answered.tag = wordsOf(offer).tag;
     session.restore.alertViewClickedButtonAtIndex(answered, 1);
 }
 

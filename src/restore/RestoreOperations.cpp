@@ -24,13 +24,7 @@ std::string joined(const std::vector<std::string>& names) {
     return joinLines(Lines(names.begin(), names.end()));
 }
 
-// How an offer is put: the end of the message, the button, and the tag that tells what the button
-// does.
-struct OfferWords {
-    std::string question;
-    std::vector<std::string> buttons;
-    RestoreOperations::Tag tag;
-};
+}  // namespace
 
 OfferWords wordsOf(Offer offer) {
     switch (offer) {
@@ -44,8 +38,6 @@ OfferWords wordsOf(Offer offer) {
     }
     return {"", {}, RestoreOperations::NoTag};
 }
-
-}  // namespace
 
 RestoreOperations::RestoreOperations(const ItemCatalogue& catalogue, CommandRunner& runner,
                                      FileManager& files, Feedback& feedback, TaskQueues& queues)

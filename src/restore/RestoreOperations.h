@@ -64,6 +64,15 @@ private:
     TaskQueues& queues_;
 };
 
+// How an offer is put: the end of the message, the button (none for no offer), and the tag of its
+// alert.
+struct OfferWords {
+    std::string question;
+    std::vector<std::string> buttons;
+    RestoreOperations::Tag tag;
+};
+OfferWords wordsOf(Offer offer);
+
 // A button of the Restore screen calls its action by name.
 struct RestoreAction {
     std::string name;  // such as "restoreNotes"
