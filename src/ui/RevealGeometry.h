@@ -1,0 +1,76 @@
+// The arithmetic of the reveal container, free of its views. Lengths in points, times in seconds,
+// velocities in points a second. The left side, where the rear view is, and the right side mirror
+// each other.
+#pragma once
+
+#include <QRectF>
+#include <QSizeF>
+
+namespace tarnwick {
+
+// Where the front view is. The numbers are compared: from left to right.
+enum RevealPosition : int {
+    FrontPositionSlidLeftRemoved = 0,
+    FrontPositionSlidLeftMost = 1,
+    FrontPositionSlidLeft = 2,
+    FrontPositionClosed = 3,
+    FrontPositionSlidRight = 4,
+    FrontPositionSlidRightMost = 5,
+    FrontPositionSlidRightRemoved = 6,
+    FrontPositionNone = 255
+};
+
+// How far the front view goes to one side, and how it behaves there.
+struct RevealSide {
+    double revealWidth = 260.0;  // a negative one is added to the container's width
+    double revealOverdraw = 60.0;
+    double revealDisplacement = 40.0;
+    bool bounceBackOnOverdraw = true;
+    bool stableDragOnOverdraw = false;
+};
+
+struct RevealGeometry {
+    QSizeF size;  // of the container
+    RevealSide rear;
+    RevealSide right;
+
+    // The side that a location or position is on: the rear one unless it is left of closed.
+    const RevealSide& sideOf(double x) const { return x < 0 ? right : rear; }
+    double revealWidth(const RevealSide& side) const;
+};
+
+// Maps the value from one range onto the other; what is below it, or no number, gives its lower
+// end.
+double scaledValue(double value, double from, double to, double low, double high);
+
+// The x of the front view at a position.
+double frontLocation(const RevealGeometry& geometry, RevealPosition position);
+// Where the side views stand while the front view is at x.
+QRectF rearFrame(const RevealGeometry& geometry, double x);
+QRectF rightFrame(const RevealGeometry& geometry, double x);
+
+// Where the front view goes when it is dragged to x: at half speed in the overdraw, and no further
+// than it.
+double adjustedDragLocation(const RevealGeometry& geometry, double x, RevealPosition position);
+
+// Where a released front view goes, and how long it takes.
+struct RevealMove {
+    RevealPosition position;
+    double duration;
+};
+// A flick is faster than `quickFlickVelocity`; a slower release takes `toggleAnimationDuration`.
+RevealMove moveOnRelease(const RevealGeometry& geometry, double x, double velocity,
+                         double quickFlickVelocity, double toggleAnimationDuration);
+
+// The first leg of a push: to the open side's end before the front child is changed. The second leg
+// closes.
+RevealMove firstLegOfPush(RevealPosition position, double toggleAnimationDuration);
+
+// How far the front view at x has gone: into the reveal width, and beyond it into the overdraw.
+struct RevealProgress {
+    double progress;
+    double overProgress;
+};
+RevealProgress revealProgress(const RevealGeometry& geometry, double x);
+
+}  // namespace tarnwick
