@@ -70,10 +70,21 @@ ExitStatus runLocked(Session& session, const Command& command,
     return command.run(session, words);
 }
 
-}  // namespace
+ExitStatus runCommand(Session& session, const std::string& name,
+                      const std::vector<std::string>& words) {
+    const auto commands = commandTable(session.catalogue);
+    const Command* command = commandOf(commands, name);
+    if (command == nullptr)
+        return wrongUsage(session, unknownWord("command", name, namesOf(commands)));
+    if (const auto fault = faultOf(*command, words))
+        return wrongUsage(session, *fault);
+    if (command->reach == Reach::Changes && !session.arguments.dryRun)
+        return runLocked(session, *command, words);
+    return command->run(session, words);
+}
 
-ExitStatus runCommandLine(const Arguments& arguments, const World& world) {
-    Session session(world, arguments);
+ExitStatus run(Session& session) {
+    const Arguments& arguments = session.arguments;
     if (arguments.fault)
         return wrongUsage(session, *arguments.fault);
     if (arguments.help) {
@@ -87,17 +98,19 @@ ExitStatus runCommandLine(const Arguments& arguments, const World& world) {
     }
     if (arguments.words.empty())
         return wrongUsage(session, "say what to do");
-    const auto commands = commandTable(session.catalogue);
-    const std::string& name = arguments.words.front();
-    const Command* command = commandOf(commands, name);
-    if (command == nullptr)
-        return wrongUsage(session, unknownWord("command", name, namesOf(commands)));
-    const std::vector<std::string> words(arguments.words.begin() + 1, arguments.words.end());
-    if (const auto fault = faultOf(*command, words))
-        return wrongUsage(session, *fault);
-    if (command->reach == Reach::Changes && !arguments.dryRun)
-        return runLocked(session, *command, words);
-    return command->run(session, words);
+    return runCommand(session, arguments.words.front(),
+                      {arguments.words.begin() + 1, arguments.words.end()});
+}
+
+}  // namespace
+
+ExitStatus runCommandLine(const Arguments& arguments, const World& world) {
+    Session session(world, arguments);
+    const ExitStatus status = run(session);
+    if (status != AllDone || !session.output.lostResult())
+        return status;
+    session.output.complaint("the results cannot be written");
+    return NotAllDone;
 }
 
 }  // namespace tarnwick

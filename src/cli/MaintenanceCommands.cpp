@@ -13,8 +13,7 @@ ExitStatus confirmed(Session& session, void (OptionsOperations::*action)()) {
     const Alert question = session.feedback.takeQuestion().value();
     if (const auto refused = session.refusal(question))
         return *refused;
-    session.options.alertViewClickedButtonAtIndex(question, 1);
-    return AllDone;
+    return session.perform([&] { session.options.alertViewClickedButtonAtIndex(question, 1); }, {});
 }
 
 // The words of the command line are themselves the answer to a choice.
@@ -51,11 +50,13 @@ ExitStatus tellSize(Session& session, const std::vector<std::string>& words) {
 ExitStatus recreateFolders(Session& session, const std::vector<std::string>& words) {
     constexpr int allFolders = 1;
     constexpr int partially = 2;
-    session.options.recreateApplicationFolders();
-    choose(session, words.empty() ? allFolders : partially);
-    if (!words.empty())
-        choose(session, buttonIndexOf(words.front(), folderWords()));
-    return AllDone;
+    const auto work = [&] {
+        session.options.recreateApplicationFolders();
+        choose(session, words.empty() ? allFolders : partially);
+        if (!words.empty())
+            choose(session, buttonIndexOf(words.front(), folderWords()));
+    };
+    return session.perform(work, {});
 }
 
 ExitStatus removeSaved(Session& session, const std::vector<std::string>& words) {

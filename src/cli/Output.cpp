@@ -18,7 +18,8 @@ void awaitReader(int descriptor) {
     ::poll(&reader, 1, -1);
 }
 
-void writeAll(int descriptor, std::string_view text) {
+// False if the text was lost. Where nobody reads any more nothing is lost.
+bool writeAll(int descriptor, std::string_view text) {
     while (!text.empty()) {
         const ssize_t count = ::write(descriptor, text.data(), text.size());
         if (count > 0)
@@ -26,8 +27,9 @@ void writeAll(int descriptor, std::string_view text) {
         else if (errno == EAGAIN)
             awaitReader(descriptor);
         else if (errno != EINTR)
-            return;
+            return errno == EPIPE;
     }
+    return true;
 }
 
 bool isControl(std::string_view character) {
@@ -61,8 +63,9 @@ Output::Output(const Streams& streams, Format format, Colour colour)
     : streams_(streams), format_(format), colour_(colour) {}
 
 void Output::result(const std::string& text, const JsonFields& fields) {
-    writeAll(streams_.results,
-             (format_ == Format::Json ? jsonObject(fields) : printable(text)) + "\n");
+    const std::string shown = format_ == Format::Json ? jsonObject(fields) : printable(text);
+    if (!writeAll(streams_.results, shown + "\n"))
+        lostResult_ = true;
 }
 
 void Output::problem(const std::string& text, const JsonFields& fields) {

@@ -19,6 +19,8 @@ public:
 
     // One line: the text, or the fields as an object.
     void result(const std::string& text, const JsonFields& fields);
+    // Whether a result could not be written, on a full disk for example.
+    bool lostResult() const { return lostResult_; }
     void problem(const std::string& text, const JsonFields& fields);
     // "TITLE: MESSAGE", as a result or a problem by the alert's kind.
     void alert(const Alert& alert);
@@ -31,6 +33,7 @@ private:
     Streams streams_;
     Format format_;
     Colour colour_;
+    bool lostResult_ = false;
 };
 
 }  // namespace tarnwick

@@ -24,6 +24,8 @@ same "but anybody may look" "SpringBoard.zip: good" \
 same "it works without any stream" 0 "$(on_phone bash -c 'tarnwick save notes <&- >&- 2>&-; echo $?')"
 same "and with a reader that went away" 0 \
     "$(on_phone bash -c 'tarnwick save all calendar | true; echo "${PIPESTATUS[0]}"')"
+same "but not with results that nobody gets" "tarnwick: the results cannot be written
+status 1" "$(on_phone bash -c 'tarnwick list 2>&1 >/dev/full; echo "status $?"')"
 same "and from any folder" "SpringBoard Backup: Backup done !" \
     "$(on_phone bash -c 'cd /usr; rm "$1/SpringBoard.zip"; tarnwick save springboard' - "$library")"
 same "what the commands say is shown on demand" 1 "$(on_phone tarnwick save notes --verbose 2>&1 | grep -c notes.sqlite)"
