@@ -24,6 +24,9 @@ QObject* describer() {
         "QtObject { property int role; property string name; property string description }",
         QUrl());
     QObject* object = component.create();
+    if (object == nullptr)
+        qFatal("The QML module QtQuick is not installed as it should be: %s",
+               qPrintable(component.errorString()));
     object->setParent(engine);
     object->setObjectName(name);
     return object;
