@@ -5,7 +5,6 @@
 #include <QPainter>
 #include <QQuickPaintedItem>
 #include <QThread>
-#include <QtGlobal>
 #include <algorithm>
 #include <utility>
 
@@ -404,8 +403,7 @@ void ProgressHUD::describeAll() {
 }
 
 void ProgressHUD::redraw() {
-    box_->update();
-    polish();
+    polish();  // the layout has the box drawn anew
 }
 
 void ProgressHUD::updatePolish() {

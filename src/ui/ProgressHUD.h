@@ -6,7 +6,6 @@
 #include <QQuickItem>
 #include <QThreadPool>
 #include <functional>
-#include <optional>
 #include <vector>
 
 #include "platform/ActivityIndicatorView.h"

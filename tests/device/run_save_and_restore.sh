@@ -53,7 +53,7 @@ on_phone tarnwick restore sources >/dev/null
 same "Cydia's sources and the own list are those from before" "$(sort <<<"$sources_before")" \
     "$(on_phone bash -c 'sort /var/mobile/Library/Caches/com.saurik.Cydia/sources.list <(
         cat /etc/apt/sources.list.d/TWKSources.list; echo)' | grep .)"
-# The steps of the line start all at once, so any one run may read the selections too early.
+# The steps of the line start all at once, so any one run may come too early for the selections.
 for ((attempt = 0; attempt < 20; attempt++)); do
     on_phone tarnwick restore packages >/dev/null
     [[ $(on_phone dpkg --get-selections) != "$packages_before" ]] || break
