@@ -1,24 +1,24 @@
 #include "platform/Accessibility.h"
 
-#include <QCoreApplication>
 #include <QQmlComponent>
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QQmlExpression>
+
+#include "platform/QmlEngine.h"
 
 namespace tarnwick {
 
 namespace {
 
 // Qt has no public C++ for describing an item; QML's attached properties are it. This object's
-// context knows them by name. It belongs to the application object.
+// context knows them by name. It belongs to the engine.
 QObject* describer() {
     static constexpr const char* name = "accessibility describer";
-    QObject* application = QCoreApplication::instance();
-    if (auto* known = application->findChild<QObject*>(name))
+    QQmlEngine& engine = applicationQmlEngine();
+    if (auto* known = engine.findChild<QObject*>(name, Qt::FindDirectChildrenOnly))
         return known;
-    auto* engine = new QQmlEngine(application);
-    QQmlComponent component(engine);
+    QQmlComponent component(&engine);
     component.setData(
         "import QtQuick\n"
         "QtObject { property int role; property string name; property string description }",
@@ -27,7 +27,7 @@ QObject* describer() {
     if (object == nullptr)
         qFatal("The QML module QtQuick is not installed as it should be: %s",
                qPrintable(component.errorString()));
-    object->setParent(engine);
+    object->setParent(&engine);
     object->setObjectName(name);
     return object;
 }

@@ -119,12 +119,12 @@ public:
         });
     }
 
-    // The number stays where it is.
-    void leave() {
+    // The number stays where it is. Who drops the group last tells that the changes are over.
+    std::shared_ptr<Group> leave() {
         stop();
         setObjectName({});
         deleteLater();
-        group_.reset();
+        return std::move(group_);
     }
 
 protected:
@@ -141,11 +141,11 @@ private:
     std::shared_ptr<Group> group_;
 };
 
-void endMotion(const Change& change) {
+// Nothing if there was none.
+std::shared_ptr<Group> endMotion(const Change& change) {
     auto* running = change.item->findChild<QVariantAnimation*>(nameOf(change.property),
                                                                Qt::FindDirectChildrenOnly);
-    if (running != nullptr)
-        static_cast<Motion*>(running)->leave();
+    return running != nullptr ? static_cast<Motion*>(running)->leave() : nullptr;
 }
 
 }  // namespace
@@ -161,15 +161,22 @@ double courseProgress(const Course& course, double timePart, double duration) {
 void animate(double duration, const Course& course, const std::vector<Change>& changes,
              Completion completion) {
     const auto group = std::make_shared<Group>(std::move(completion));
+    group->finished = true;  // if there is nothing to move
+    // Told when everything here is under way: they may start the next animation.
+    std::vector<std::shared_ptr<Group>> overtaken;
     for (const Change& change : changes) {
-        endMotion(change);
+        overtaken.push_back(endMotion(change));
+        if (!overtaken.back() && valueOf(*change.item, change.property) == change.target)
+            continue;
+        group->finished = false;
         (new Motion(change, duration, course, group))->start();
     }
 }
 
 void applyAtOnce(const std::vector<Change>& changes) {
+    std::vector<std::shared_ptr<Group>> overtaken;
     for (const Change& change : changes) {
-        endMotion(change);
+        overtaken.push_back(endMotion(change));
         setValue(*change.item, change.property, change.target);
     }
 }

@@ -7,6 +7,8 @@
 
 namespace tarnwick {
 
+enum class Animated { No, Yes };
+
 // How a change runs its course. Field terms: an easing curve, or a spring with a damping ratio (1.0
 // does not swing) and an initial velocity in distances per second.
 enum class Easing { Linear, InOut, Out };
@@ -31,7 +33,8 @@ struct Change {
 // Told once how it ended: finished is false if another animation took all of its properties over.
 using Completion = std::function<void(bool finished)>;
 
-// Animates the changes together over the duration, in seconds. A running animation of the same
+// Animates the changes together over the duration, in seconds; without a change to make it is over
+// at once. A running animation of the same
 // number of the same item gives it up where it stands, so that nothing jumps. Items may vanish
 // meanwhile. Main thread.
 void animate(double duration, const Course& course, const std::vector<Change>& changes,

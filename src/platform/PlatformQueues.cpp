@@ -1,43 +1,72 @@
 #include "platform/PlatformQueues.h"
 
+#include <sys/resource.h>
+
 #include <QCoreApplication>
-#include <limits>
+#include <chrono>
+#include <latch>
+#include <thread>
 #include <utility>
 
 #include "platform/MainThread.h"
 
 namespace tarnwick {
 
-PlatformQueues::PlatformQueues() {
-    backgroundThreads_.setMaxThreadCount(std::numeric_limits<int>::max());
-    // Not kept for reuse: each call gets a new thread.
-    backgroundThreads_.setExpiryTimeout(0);
-    globalQueue_.setThreadPriority(QThread::HighPriority);
+namespace {
+
+constexpr int mainThreadNiceness = -10;
+
+}  // namespace
+
+PlatformQueues::PlatformQueues() : usualNiceness_(getpriority(PRIO_PROCESS, 0)) {
+    // The interface goes first where commands keep every core busy. Without the right to it, the
+    // system decides.
+    setpriority(PRIO_PROCESS, 0, mainThreadNiceness);
 }
 
 PlatformQueues::~PlatformQueues() {
-    serveUntilIdle();
+    using namespace std::chrono_literals;
+    const auto idle = [this] { return running_ == 0; };
+    std::unique_lock lock(guard_);
+    while (!ended_.wait_for(lock, 10ms, idle)) {
+        lock.unlock();
+        QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+        lock.lock();
+    }
 }
 
-void PlatformQueues::serveUntilIdle() {
-    constexpr int turn = 10;  // milliseconds
-    while (!backgroundThreads_.waitForDone(turn) || !globalQueue_.waitForDone(turn))
-        QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+void PlatformQueues::startThread(Task task) {
+    const std::lock_guard lock(guard_);
+    ++running_;
+    std::thread([this, task = std::move(task)]() mutable {
+        // A thread and the commands that it runs have no part in the main thread's privilege.
+        setpriority(PRIO_PROCESS, 0, usualNiceness_);
+        std::exchange(task, nullptr)();
+        const std::lock_guard done(guard_);
+        --running_;
+        ended_.notify_all();
+    }).detach();
 }
 
 void PlatformQueues::runInBackground(Task task) {
-    backgroundThreads_.start(std::move(task));
+    startThread(std::move(task));
 }
 
 void PlatformQueues::performOnMainThreadAndWait(Task task) {
-    if (isMainThread())
+    if (isMainThread()) {
         task();
-    else
-        QMetaObject::invokeMethod(this, std::move(task), Qt::BlockingQueuedConnection);
+        return;
+    }
+    std::latch done(1);
+    performLaterOnMainThread(this, [&task, &done] {
+        task();
+        done.count_down();
+    });
+    done.wait();
 }
 
 void PlatformQueues::dispatchToGlobalQueue(Task task) {
-    globalQueue_.start(std::move(task));
+    startThread(std::move(task));
 }
 
 void PlatformQueues::dispatchToMainQueue(Task task) {

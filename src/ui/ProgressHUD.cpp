@@ -4,12 +4,11 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QQuickPaintedItem>
-#include <QThread>
 #include <algorithm>
+#include <thread>
 #include <utility>
 
 #include "platform/Accessibility.h"
-#include "platform/Animation.h"
 #include "platform/MainThread.h"
 #include "ui/BarProgressView.h"
 #include "ui/RoundProgressView.h"
@@ -154,6 +153,7 @@ void ProgressHUD::show(Animated animated) {
 void ProgressHUD::showNow() {
     const bool animated = useAnimation_ == Animated::Yes;
     setVisible(true);
+    coverSiblings();
     redraw();
     sinceShown_->start();
     if (!animated) {
@@ -167,6 +167,15 @@ void ProgressHUD::showNow() {
         changes.push_back({this, Change::Property::Scale, 1.0});
     }
     animate(animationDuration, Easing::InOut, changes);
+}
+
+// What lies under the HUD cannot be pressed by keys either.
+void ProgressHUD::coverSiblings() {
+    if (parentItem() == nullptr)
+        return;
+    QList<QQuickItem*> siblings = parentItem()->childItems();
+    siblings.removeIf([](QQuickItem* item) { return qobject_cast<ProgressHUD*>(item) != nullptr; });
+    cover_ = std::make_unique<Cover>(siblings);
 }
 
 void ProgressHUD::hide(Animated animated) {
@@ -205,6 +214,7 @@ void ProgressHUD::finish() {
     finished_ = true;
     applyAtOnce({{this, Change::Property::Opacity, 0.0}});
     setVisible(false);
+    cover_.reset();
     const Block completion = std::exchange(completionBlock, nullptr);
     const QPointer<ProgressHUD> hud = this;
     if (removeFromSuperViewOnHide) {
@@ -213,21 +223,13 @@ void ProgressHUD::finish() {
     }
     if (completion)
         completion();
-    if (hud && delegateObject_)
-        delegate_->hudWasHidden(this);
+    if (hud && delegate_.get() != nullptr)
+        delegate_.get()->hudWasHidden(this);
 }
 
 void ProgressHUD::showWhileExecuting(Block method, Animated animated) {
     taskInProgress = true;
-    QThread* thread = QThread::create([hud = QPointer(this), method = std::move(method)] {
-        method();
-        performLaterOnMainThread(QCoreApplication::instance(), [hud] {
-            if (hud)
-                hud->cleanUp();
-        });
-    });
-    connect(thread, &QThread::finished, thread, &QObject::deleteLater);
-    thread->start();
+    std::thread(boundTask(std::move(method))).detach();
     show(animated);
 }
 
@@ -236,14 +238,18 @@ void ProgressHUD::showAnimatedWhileExecutingBlock(Animated animated, Block block
     taskInProgress = true;
     completionBlock = std::move(completion);
     QThreadPool* pool = queue != nullptr ? queue : QThreadPool::globalInstance();
-    pool->start([hud = QPointer(this), block = std::move(block)] {
+    pool->start(boundTask(std::move(block)));
+    show(animated);
+}
+
+ProgressHUD::Block ProgressHUD::boundTask(Block block) {
+    return [hud = QPointer(this), block = std::move(block)] {
         block();
         performLaterOnMainThread(QCoreApplication::instance(), [hud] {
             if (hud)
                 hud->cleanUp();
         });
-    });
-    show(animated);
+    };
 }
 
 void ProgressHUD::cleanUp() {
@@ -351,11 +357,6 @@ void ProgressHUD::setDimBackground(bool dim) {
     redraw();
 }
 
-void ProgressHUD::setDelegate(ProgressHUDDelegate* delegate) {
-    delegate_ = delegate;
-    delegateObject_ = dynamic_cast<QObject*>(delegate);
-}
-
 void ProgressHUD::updateIndicators() {
     if (mode_ == ModeIndeterminate) {
         if (qobject_cast<ActivityIndicatorView*>(indicator_) == nullptr) {
@@ -388,7 +389,8 @@ void ProgressHUD::replaceIndicator(QQuickItem* indicator) {
     indicator_ = indicator;
     if (indicator_)
         indicator_->setParentItem(this);
-    passProgressOn();
+    if (mode_ != ModeCustomView)
+        passProgressOn();
 }
 
 void ProgressHUD::passProgressOn() {

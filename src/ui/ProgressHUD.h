@@ -6,18 +6,20 @@
 #include <QQuickItem>
 #include <QThreadPool>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "platform/ActivityIndicatorView.h"
+#include "platform/Animation.h"
+#include "platform/Cover.h"
 #include "platform/LabelView.h"
 #include "platform/Pause.h"
+#include "platform/WeakDelegate.h"
 #include "ui/ProgressHUDLayout.h"
 
 namespace tarnwick {
 
 class ProgressHUD;
-
-enum class Animated { No, Yes };
 
 // Told when a HUD has been hidden. Held weakly: whoever implements it is a QObject too.
 class ProgressHUDDelegate {
@@ -27,9 +29,9 @@ public:
 };
 
 // The busy indicator: a translucent rounded box centred over a view, with an indicator and up to
-// two texts. It takes every touch of the view that it covers. A property may be set on any thread:
-// on another one than the main thread the change is handed over without waiting. Everything else is
-// for the main thread. Lengths in points, times in seconds.
+// two texts. What else the view holds gets no touch and no key while it is shown. A property may be
+// set on any thread: on another one than the main thread the change is handed over without waiting.
+// Everything else is for the main thread. Lengths in points, times in seconds.
 class ProgressHUD : public QQuickItem {
     Q_OBJECT
 
@@ -100,7 +102,7 @@ public:
     bool taskInProgress = false;  // a task bound to the HUD runs
     Block completionBlock;        // run once when the HUD has been hidden
 
-    void setDelegate(ProgressHUDDelegate* delegate);
+    void setDelegate(ProgressHUDDelegate* delegate) { delegate_.set(delegate); }
 
     Mode mode() const { return mode_; }
     QString labelText() const { return label_->text(); }
@@ -131,8 +133,10 @@ private:
     void describeAll();
     void redraw();
     void showNow();
+    void coverSiblings();
     void hideNow();
     void finish();
+    Block boundTask(Block block);
     void cleanUp();
     bool isShown() const { return sinceShown_->isRunning(); }
 
@@ -152,12 +156,12 @@ private:
     HUDLayout layout_;
     Animated useAnimation_ = Animated::No;
     bool finished_ = false;
+    std::unique_ptr<Cover> cover_;
     Pause* graceTimer_;
     Pause* minShowTimer_;
     Pause* delayedHide_;
     Stopwatch* sinceShown_;  // runs while the HUD is shown
-    ProgressHUDDelegate* delegate_ = nullptr;
-    QPointer<QObject> delegateObject_;
+    WeakDelegate<ProgressHUDDelegate> delegate_;
 };
 
 }  // namespace tarnwick

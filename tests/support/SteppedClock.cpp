@@ -14,6 +14,11 @@ SteppedClock::~SteppedClock() {
     uninstall();
 }
 
+void SteppedClock::start() {
+    start_ = now_;
+    QAnimationDriver::start();
+}
+
 void SteppedClock::advance(double seconds) {
     constexpr qint64 frame = 10;  // milliseconds
     const qint64 end = now_ + std::lround(seconds * 1000.0);
@@ -21,10 +26,17 @@ void SteppedClock::advance(double seconds) {
         // Animations that were just started register in a turn of the loop.
         QCoreApplication::sendPostedEvents();
         now_ = std::min(now_ + frame, end);
-        advanceAnimation();
+        if (isRunning())
+            advanceAnimation();
     }
     QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    finishDeletions();
+}
+
+void finishDeletions() {
+    constexpr int depth = 4;  // what is deleted lets go of others, which are deleted later again
+    for (int turn = 0; turn < depth; ++turn)
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 }  // namespace tarnwick::testing

@@ -13,10 +13,21 @@ public:
 
     // In steps of a frame, as a screen would.
     void advance(double seconds);
-    qint64 elapsed() const override { return now_; }
+    // Milliseconds since the clock was made.
+    qint64 now() const { return now_; }
+
+    // Since animations run again.
+    qint64 elapsed() const override { return now_ - start_; }
+
+protected:
+    void start() override;
 
 private:
     qint64 now_ = 0;
+    qint64 start_ = 0;
 };
+
+// Deletes what is to be deleted later, and what that lets go of.
+void finishDeletions();
 
 }  // namespace tarnwick::testing

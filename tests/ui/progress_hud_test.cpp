@@ -92,6 +92,19 @@ TEST_F(ProgressHUDTest, TheLastOneAddedIsTheViewsHUD) {
     EXPECT_EQ(ProgressHUD::hideAllHUDsForView(&view, Animated::No), 0);
 }
 
+TEST_F(ProgressHUDTest, WhatLiesUnderItTakesNoInputUntilTheLastOneHasGone) {
+    QQuickItem content(&view);
+    ProgressHUD* first = ProgressHUD::showHUDAddedTo(&view, Animated::No);
+    ProgressHUD* second = ProgressHUD::showHUDAddedTo(&view, Animated::No);
+    first->hide(Animated::No);
+    EXPECT_FALSE(content.isEnabled());
+    EXPECT_TRUE(second->isEnabled());
+    second->hide(Animated::Yes);
+    EXPECT_FALSE(content.isEnabled()) << "while it fades";
+    clock.advance(0.4);
+    EXPECT_TRUE(content.isEnabled());
+}
+
 TEST_F(ProgressHUDTest, StaysForItsMinimumShowTime) {
     const QPointer<ProgressHUD> hud = ProgressHUD::showHUDAddedTo(&view, Animated::No);
     hud->minShowTime = 1.0;

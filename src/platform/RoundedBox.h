@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+
+#include <QColor>
+#include <QQuickPaintedItem>
+
+namespace tarnwick {
+
+// A filled box with round corners that has no seams while it is scaled, unlike Qt's rectangle
+// without a GPU. The radius is in points.
+class RoundedBox : public QQuickPaintedItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(double radius MEMBER radius_ NOTIFY changed)
+    Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed)
+
+public:
+    explicit RoundedBox(QQuickItem* parent = nullptr);
+
+    void paint(QPainter* painter) override;
+
+signals:
+    void changed();
+
+private:
+    double radius_ = 0.0;
+    QColor color_ = Qt::white;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QColor>
+#include <QQuickPaintedItem>
+#include <QString>
+#include <QtQmlIntegration>
+
+namespace tarnwick {
+
+// A small line drawing in one colour, sharp at every size. An unknown name draws nothing. Main
+// thread.
+class SymbolView : public QQuickPaintedItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged)
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
+
+public:
+    explicit SymbolView(QQuickItem* parent = nullptr);
+
+    const QString& name() const { return name_; }
+    void setName(const QString& name);
+    const QColor& color() const { return color_; }
+    void setColor(const QColor& color);
+
+    void paint(QPainter* painter) override;
+
+signals:
+    void nameChanged();
+    void colorChanged();
+
+private:
+    QString name_;
+    QColor color_ = Qt::black;
+};
+
+}  // namespace tarnwick

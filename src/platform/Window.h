@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QQuickWindow>
+#include <memory>
+
+#include "platform/AlertPresenter.h"
+#include "platform/GestureArbiter.h"
+#include "platform/Stage.h"
+
+namespace tarnwick {
+
+class ViewController;
+
+// The application's window: shows one controller's view with alerts over it. Its gesture
+// recognisers see a touch before its items do. Main thread.
+class Window : public QQuickWindow {
+    Q_OBJECT
+
+public:
+    Window();
+    ~Window() override;
+
+    const std::shared_ptr<ViewController>& rootViewController() const { return root_; }
+    // Its view fills the window from now on; that of the former one leaves it. May be none.
+    void setRootViewController(const std::shared_ptr<ViewController>& root);
+
+    AlertPresenter& alerts() { return alerts_; }
+
+protected:
+    bool event(QEvent* event) override;
+
+private:
+    GestureArbiter arbiter_;
+    std::shared_ptr<ViewController> root_;
+    Stage stage_;
+    AlertPresenter alerts_;
+};
+
+}  // namespace tarnwick

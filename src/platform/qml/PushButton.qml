@@ -1,0 +1,31 @@
+import QtQuick
+import Tarnwick
+
+// A push button: filled with the program's blue. Other looks replace its caption's colour and its
+// background. It has no look of its own for being disabled: all buttons under an alert are.
+BareButton {
+    id: button
+
+    property color captionColor: "white"
+
+    padding: 8
+    implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
+    implicitHeight: Math.max(44, Math.ceil(implicitContentHeight) + topPadding + bottomPadding)
+    font.pixelSize: Look.headline
+    focusRingColor: captionColor
+
+    contentItem: Text {
+        text: button.text
+        textFormat: Text.PlainText
+        font: button.font
+        color: button.captionColor
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        wrapMode: Text.Wrap
+    }
+
+    background: Rectangle {
+        radius: 5
+        color: button.pressed ? Qt.darker(Look.blue, 1.25) : Look.blue
+    }
+}

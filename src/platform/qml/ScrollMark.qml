@@ -1,0 +1,17 @@
+import QtQuick
+
+// Shows which part of an area that scrolls is seen, at the area's right edge.
+Rectangle {
+    required property Flickable area
+    readonly property int inset: 8  // clear of round corners
+    readonly property real track: area.height - 2 * inset
+
+    visible: area.contentHeight > area.height
+    parent: area
+    x: area.width - width - 3
+    y: inset + track * Math.max(0, area.visibleArea.yPosition)
+    width: 3
+    height: Math.max(12, track * area.visibleArea.heightRatio)
+    radius: width / 2
+    color: Qt.rgba(0, 0, 0, 0.35)
+}

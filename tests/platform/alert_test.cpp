@@ -1,0 +1,369 @@
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QGuiApplication>
+#include <QPointer>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <QSignalSpy>
+#include <QTest>
+#include <map>
+#include <set>
+#include <thread>
+
+#include "platform/AlertPresenter.h"
+#include "platform/AlertView.h"
+#include "platform/QmlEngine.h"
+#include "platform/Stage.h"
+#include "support/SteppedClock.h"
+
+namespace tarnwick::testing {
+namespace {
+
+// Writes down what it is told; may do something more when it is told of a click.
+class Listener : public AlertDelegate {
+public:
+    void alertClickedButtonAtIndex(const Alert& alert, int index) override {
+        diary += "clicked " + std::to_string(alert.tag) + "/" + std::to_string(index) + ";";
+        if (onClick)
+            onClick();
+    }
+    void alertDidDismissWithButtonIndex(const Alert& alert, int index) override {
+        diary += "gone " + std::to_string(alert.tag) + "/" + std::to_string(index) + ";";
+    }
+    std::string diary;
+    std::function<void()> onClick;
+};
+
+// Something on the screen that follows a finger or a pointer.
+class Surface : public QQuickItem {
+public:
+    explicit Surface(QQuickItem* parent) : QQuickItem(parent) {
+        setAcceptedMouseButtons(Qt::LeftButton);
+        setPosition({0, 300});
+        setSize({375, 300});
+    }
+    int presses = 0;
+    int cancelled = 0;
+    int wheels = 0;
+
+protected:
+    void mousePressEvent(QMouseEvent*) override { ++presses; }
+    void mouseUngrabEvent() override { ++cancelled; }
+    void wheelEvent(QWheelEvent*) override { ++wheels; }
+};
+
+QRectF frameOf(const QQuickItem* item) {
+    return item->mapRectToScene({0, 0, item->width(), item->height()});
+}
+
+// The names of all that assistive technology finds below, in order.
+QStringList offered(QAccessibleInterface* from) {
+    QStringList names;
+    for (int place = 0; place < from->childCount(); ++place) {
+        QAccessibleInterface* child = from->child(place);
+        EXPECT_EQ(from->indexOfChild(child), place);
+        if (child->state().invisible)
+            continue;
+        names << child->text(QAccessible::Name);
+        names << offered(child);
+    }
+    names.removeAll({});
+    return names;
+}
+
+// A phone whose screen has two buttons, of which the second has the keyboard.
+class AlertTest : public ::testing::Test {
+protected:
+    AlertTest() {
+        resize({375, 667});
+        for (const char* caption : {"Save", "Load"})
+            buttons.push_back(createQmlItem("PushButton", &stage, {{"text", caption}}));
+        buttons[1]->setY(100);
+        window.show();
+        window.requestActivate();
+        QCoreApplication::processEvents();
+        buttons[1]->forceActiveFocus();
+        clicks = std::make_unique<QSignalSpy>(buttons[0], SIGNAL(clicked()));
+    }
+    ~AlertTest() override { presenter.reset(); }
+
+    void resize(const QSize& size) {
+        window.resize(size);
+        window.contentItem()->setSize(size);
+        stage.setSize(size);
+    }
+
+    void showAndWait(const Alert& alert) {
+        presenter->show(alert, listener);
+        clock.advance(alertAppearDuration + 0.01);  // it starts with a frame
+        layOut();
+    }
+
+    void layOut() { static_cast<void>(window.grabWindow()); }
+    void key(Qt::Key pressed) { QTest::keyClick(&window, pressed); }
+    QPoint middleOf(QQuickItem* item) { return frameOf(item).center().toPoint(); }
+    void click(QQuickItem* item) { QTest::mouseClick(&window, Qt::LeftButton, {}, middleOf(item)); }
+    QStringList allOffered() { return offered(QAccessible::queryAccessibleInterface(&window)); }
+
+    SteppedClock clock;
+    QQuickWindow window;
+    Stage stage{window.contentItem()};
+    std::vector<QQuickItem*> buttons;
+    std::unique_ptr<QSignalSpy> clicks;  // of the first button
+    std::unique_ptr<AlertPresenter> presenter =
+        std::make_unique<AlertPresenter>(stage, *window.contentItem());
+    std::shared_ptr<Listener> listener = std::make_shared<Listener>();
+};
+
+const Alert question = {
+    .title = "Restart?", .message = "Now.", .otherButtonTitles = {"One", "Two"}, .tag = 7};
+
+TEST_F(AlertTest, ShownByManyThreadsAllAppearInEachThreadsOrder) {
+    window.hide();  // no frames, which are drawn on threads of Qt's own
+    constexpr int threadCount = 8;
+    constexpr int alertCount = 5;  // of each
+    std::map<int, AlertTicket> tickets;
+    for (int tag = 0; tag < threadCount * alertCount; ++tag)
+        tickets[tag] = {};
+    std::vector<std::thread> threads;
+    for (int number = 0; number < threadCount; ++number)
+        threads.emplace_back([this, number, &tickets] {
+            for (int tag = number * alertCount; tag < (number + 1) * alertCount; ++tag)
+                tickets.at(tag) = presenter->show({.tag = tag}, listener);
+        });
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(presenter->numberShown(), 0);
+    const AlertTicket last = presenter->show({.title = "last"});
+    ASSERT_EQ(presenter->numberShown(), threadCount * alertCount + 1);
+    EXPECT_EQ(presenter->top()->alert().title, "last");
+    presenter->dismiss(last, 0, Animated::No);
+    std::vector<int> next(threadCount, alertCount - 1);
+    while (AlertView* top = presenter->top()) {
+        const int tag = top->alert().tag;
+        EXPECT_TRUE(top->isVisible());
+        EXPECT_EQ(tag % alertCount, next[static_cast<std::size_t>(tag / alertCount)]--);
+        presenter->dismiss(tickets.at(tag), 0, Animated::No);
+    }
+    EXPECT_EQ(next, std::vector<int>(threadCount, -1));
+    EXPECT_FALSE(stage.isCovered());
+}
+
+TEST_F(AlertTest, EveryWayOfPressingTellsTheIndexAndThenTheEnd) {
+    const std::unique_ptr<QPointingDevice> finger(QTest::createTouchDevice());
+    const auto touch = [this, &finger](QQuickItem* item) {
+        QTest::touchEvent(&window, finger.get()).press(1, middleOf(item));
+        QTest::touchEvent(&window, finger.get()).release(1, middleOf(item));
+    };
+    const auto press = [](QQuickItem* item) {
+        QAccessible::queryAccessibleInterface(item)->actionInterface()->doAction(
+            QAccessibleActionInterface::pressAction());
+    };
+    struct Row {
+        const char* name;
+        std::function<void(const std::vector<QQuickItem*>& all)> act;
+        int index;
+    };
+    const Row rows[] = {
+        {"mouse", [this](const auto& all) { click(all[0]); }, 1},
+        {"touch", [&touch](const auto& all) { touch(all[1]); }, 2},
+        {"assistive technology", [&press](const auto& all) { press(all[1]); }, 2},
+        {"Return", [this](const auto&) { key(Qt::Key_Return); }, 0},
+        {"Tab, Enter", [this](const auto&) { key(Qt::Key_Tab), key(Qt::Key_Enter); }, 1},
+        {"Up, space bar", [this](const auto&) { key(Qt::Key_Up), key(Qt::Key_Space); }, 2},
+        {"Escape", [this](const auto&) { key(Qt::Key_Tab), key(Qt::Key_Escape); }, 0},
+    };
+    for (const Row& row : rows) {
+        listener->diary.clear();
+        showAndWait(question);
+        EXPECT_EQ(presenter->top()->panel()->opacity(), 1) << row.name;
+        row.act(presenter->top()->buttons());
+        key(Qt::Key_Escape);  // it is leaving: too late
+        const auto told = "clicked 7/" + std::to_string(row.index) + ";";
+        clock.advance(alertLeaveDuration / 2);
+        EXPECT_EQ(listener->diary, told) << row.name;
+        EXPECT_TRUE(stage.isCovered()) << row.name;
+        clock.advance(alertLeaveDuration / 2);
+        EXPECT_EQ(listener->diary, told + "gone 7/" + std::to_string(row.index) + ";") << row.name;
+        EXPECT_FALSE(stage.isCovered()) << row.name;
+    }
+    showAndWait({.message = "Wait.", .cancelButtonTitle = ""});
+    key(Qt::Key_Escape), key(Qt::Key_Return), key(Qt::Key_Tab);
+    EXPECT_EQ(presenter->numberShown(), 1);
+}
+
+TEST_F(AlertTest, NoButtonIsLostOnTheSmallestScreensAndWithLargeText) {
+    struct Row {
+        QSize screen;
+        int fontSize;
+    };
+    const QFont usual = QGuiApplication::font();
+    for (const Row& row : {Row{{320, 480}, 12}, Row{{480, 320}, 12}, Row{{320, 480}, 23}}) {
+        QFont font = usual;
+        font.setPixelSize(row.fontSize);
+        QGuiApplication::setFont(font);
+        resize(row.screen);
+        std::set<std::string> told;
+        for (int place = 1; place <= 12; ++place) {
+            listener->diary.clear();
+            showAndWait({.title = "Choose",
+                         .message = std::string(200, 'x'),
+                         .otherButtonTitles = std::vector<std::string>(11, "Another choice")});
+            for (int turn = 0; turn < place; ++turn)
+                key(Qt::Key_Tab);
+            const QRectF focused = frameOf(window.activeFocusItem());
+            const QRectF panel = frameOf(presenter->top()->panel());
+            EXPECT_TRUE(panel.contains(focused)) << place;
+            EXPECT_TRUE(QRectF({0, 0}, row.screen).contains(panel));
+            EXPECT_LE(window.activeFocusItem()->implicitWidth(), panel.width());
+            EXPECT_LE(window.activeFocusItem()->implicitHeight(), focused.height());
+            key(Qt::Key_Return);
+            clock.advance(alertLeaveDuration);
+            told.insert(listener->diary);
+        }
+        EXPECT_EQ(told.size(), 12U);
+    }
+    QGuiApplication::setFont(usual);
+}
+
+TEST_F(AlertTest, LongMessagesScrollAndTheButtonsStay) {
+    std::string message;
+    for (int line = 0; line < 400; ++line)
+        message += "One more line.\n";
+    showAndWait({.title = "Long", .message = message, .otherButtonTitles = {"Yes"}});
+    auto* area = presenter->top()->panel()->property("textArea").value<QQuickItem*>();
+    for (const QSize& size : {QSize(375, 667), QSize(480, 320), QSize(1024, 1366)}) {
+        resize(size);
+        layOut();
+        const QRectF panel = frameOf(presenter->top()->panel());
+        EXPECT_TRUE(QRectF({0, 0}, size).contains(panel));
+        EXPECT_NEAR(panel.center().x(), size.width() / 2.0, 1);
+        for (const QQuickItem* button : presenter->top()->buttons())
+            EXPECT_TRUE(panel.contains(frameOf(button)));
+        const double before = area->property("contentY").toDouble();
+        key(Qt::Key_PageDown);
+        EXPECT_NEAR(area->property("contentY").toDouble(), before + area->height(), 30);
+    }
+}
+
+TEST_F(AlertTest, MarkupIsShownAsItIs) {
+    showAndWait({.title = "A", .message = "b c"});
+    const double height = presenter->top()->panel()->height();
+    showAndWait({.title = "<h1>A</h1>", .message = "b<br>c"});
+    EXPECT_EQ(presenter->top()->panel()->height(), height);
+}
+
+TEST_F(AlertTest, DismissedByCodeItTellsOnlyThat) {
+    AlertTicket waiting;
+    std::thread([&] {
+        waiting = presenter->show({.tag = 1}, listener);
+        presenter->dismiss(waiting, 3, Animated::Yes);
+        presenter->dismiss(waiting, 4, Animated::Yes);
+    }).join();
+    const AlertTicket older = presenter->show({.tag = 2}, listener);
+    EXPECT_EQ(listener->diary, "gone 1/3;");
+    EXPECT_EQ(presenter->numberShown(), 1);
+    const AlertTicket newer = presenter->show({.tag = 3}, listener);
+    presenter->dismiss(older, 5, Animated::Yes);
+    EXPECT_EQ(presenter->top()->alert().tag, 3);
+    presenter->dismiss(older, 6, Animated::No);
+    presenter->dismiss({}, 0, Animated::No);
+    std::thread([&] { presenter->dismiss(newer, 8, Animated::No); }).join();
+    EXPECT_EQ(listener->diary, "gone 1/3;gone 2/5;");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(listener->diary, "gone 1/3;gone 2/5;gone 3/8;");
+    EXPECT_EQ(presenter->top(), nullptr);
+}
+
+TEST_F(AlertTest, WhatLiesBelowGetsNothingUntilItIsBack) {
+    const QStringList all = {"Save", "Load"};
+    EXPECT_EQ(allOffered(), all);
+    Surface surface(&stage);
+    QQmlComponent component(&applicationQmlEngine());
+    component.setData(
+        "import QtQuick; Item { property int used; Shortcut { sequence: 'S'; onActivated: ++used } "
+        "}",
+        {});
+    const std::unique_ptr<QObject> shortcut(component.create());
+    static_cast<QQuickItem*>(shortcut.get())->setParentItem(&stage);
+    const QPoint place(20, 320);
+    QTest::mousePress(&window, Qt::LeftButton, {}, place);
+    const AlertTicket older = presenter->show({.title = "Older"});
+    EXPECT_EQ(surface.cancelled, 1);
+    QTest::mouseRelease(&window, Qt::LeftButton, {}, place);
+    QTest::mouseClick(&window, Qt::LeftButton, {}, place);
+    QWheelEvent wheel(place, place, {}, {0, 120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&window, &wheel);
+    key(Qt::Key_S);
+    EXPECT_EQ(shortcut->property("used"), 0);
+    EXPECT_EQ(surface.presses, 1);
+    EXPECT_EQ(surface.wheels, 0);
+    EXPECT_EQ(allOffered(), QStringList({"Older", "Close"}));
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&stage)->childCount(), 0);
+    showAndWait(question);
+    EXPECT_EQ(allOffered(), QStringList({"Restart?", "One", "Two", "Close"}));
+    const QPoint corner = window.mapToGlobal(middleOf(buttons[0]));
+    QAccessibleInterface* found =
+        QAccessible::queryAccessibleInterface(&window)->childAt(corner.x(), corner.y());
+    EXPECT_TRUE(found == nullptr || found->text(QAccessible::Name) != "Save");
+
+    click(buttons[0]);
+    buttons[0]->forceActiveFocus();
+    QCoreApplication::processEvents();
+    key(Qt::Key_Space);
+    EXPECT_EQ(clicks->count(), 0);
+    clock.advance(alertLeaveDuration);
+    EXPECT_EQ(allOffered(), QStringList({"Older", "Close"}));
+    EXPECT_EQ(window.activeFocusItem(), presenter->top()->buttons()[0]);
+    presenter->dismiss(older, 0, Animated::No);
+
+    EXPECT_EQ(allOffered(), all);
+    EXPECT_EQ(window.activeFocusItem(), buttons[0]);
+    key(Qt::Key_Return);
+    click(buttons[0]);
+    EXPECT_EQ(clicks->count(), 2);
+    key(Qt::Key_S);
+    EXPECT_EQ(shortcut->property("used"), 1);
+}
+
+TEST_F(AlertTest, GivesTheKeyboardBackToWhatHadIt) {
+    for (const auto reason : {Qt::TabFocusReason, Qt::OtherFocusReason}) {
+        buttons[0]->forceActiveFocus();
+        buttons[1]->forceActiveFocus(reason);
+        showAndWait(question);
+        key(Qt::Key_Escape);
+        clock.advance(alertLeaveDuration);
+        EXPECT_EQ(window.activeFocusItem(), buttons[1]);
+        EXPECT_EQ(buttons[1]->property("visualFocus").toBool(), reason == Qt::TabFocusReason);
+    }
+}
+
+TEST_F(AlertTest, WhoeverGoesFirstTheOthersLiveOn) {
+    presenter->show(question, std::make_shared<Listener>());
+    key(Qt::Key_Escape);
+    clock.advance(alertLeaveDuration);
+
+    listener->onClick = [this] { presenter.reset(); };
+    presenter->show({.tag = 1});
+    std::thread([this] { presenter->show({.tag = 2}); }).join();
+    showAndWait(question);
+    click(presenter->top()->buttons()[0]);
+    EXPECT_EQ(listener->diary, "clicked 7/1;");
+    EXPECT_FALSE(stage.isCovered());
+    clock.advance(1.0);
+    EXPECT_EQ(window.activeFocusItem(), buttons[1]);
+
+    presenter = std::make_unique<AlertPresenter>(stage, *window.contentItem());
+    const AlertTicket leaving = presenter->show(question, listener);
+    presenter->dismiss(leaving, 0, Animated::Yes);
+    presenter->show({.tag = 3});
+    std::thread([this] { presenter->show({.tag = 4}); }).join();
+    presenter.reset();
+    clock.advance(1.0);
+    EXPECT_EQ(listener->diary, "clicked 7/1;");
+}
+
+}  // namespace
+}  // namespace tarnwick::testing
