@@ -108,6 +108,16 @@ double adjustedDragLocation(const RevealGeometry& geometry, double x, RevealPosi
     return (width + overdraw) * factor;
 }
 
+bool dragMayBegin(const RevealDrag& drag) {
+    const bool fromBorder = drag.borderWidth == 0 ||
+                            (drag.hasRear && drag.from <= drag.borderWidth) ||
+                            (drag.hasRight && drag.from >= drag.width - drag.borderWidth);
+    const bool leadsNowhere =
+        drag.position == FrontPositionClosed &&
+        ((!drag.hasRear && drag.translation > 0) || (!drag.hasRight && drag.translation < 0));
+    return fromBorder && !leadsNowhere;
+}
+
 RevealMove moveOnRelease(const RevealGeometry& geometry, double x, double velocity,
                          double quickFlickVelocity, double toggleAnimationDuration) {
     const int factor = factorOf(x);

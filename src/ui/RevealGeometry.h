@@ -53,6 +53,18 @@ QRectF rightFrame(const RevealGeometry& geometry, double x);
 // than it.
 double adjustedDragLocation(const RevealGeometry& geometry, double x, RevealPosition position);
 
+// A drag that wants to begin: where its touch went down and how far it has gone since.
+struct RevealDrag {
+    double from;
+    double translation;
+    double width;        // of the container
+    double borderWidth;  // of the part where drags may start; 0 is everywhere
+    RevealPosition position;
+    bool hasRear;
+    bool hasRight;
+};
+bool dragMayBegin(const RevealDrag& drag);
+
 // Where a released front view goes, and how long it takes.
 struct RevealMove {
     RevealPosition position;

@@ -1,0 +1,35 @@
+#include "ui/RevealSegues.h"
+
+#include "ui/RevealViewController.h"
+
+namespace tarnwick {
+
+RevealViewController* revealViewController(const ViewController& controller) {
+    for (auto* parent = controller.parentViewController(); parent != nullptr;
+         parent = parent->parentViewController())
+        if (auto* reveal = qobject_cast<RevealViewController*>(parent))
+            return reveal;
+    return nullptr;
+}
+
+void RevealViewControllerSegueSetController::perform() {
+    auto* reveal = qobject_cast<RevealViewController*>(ends().source.get());
+    if (reveal == nullptr)
+        return;
+    const auto replace = [this, reveal](ChildReplacement operation) {
+        reveal->performTransitionOperation(operation, ends().destination, Animated::No);
+    };
+    if (ends().identifier == RevealViewController::segueFrontIdentifier)
+        replace(ReplaceFront);
+    else if (ends().identifier == RevealViewController::segueRearIdentifier)
+        replace(ReplaceRear);
+    else if (ends().identifier == RevealViewController::segueRightIdentifier)
+        replace(ReplaceRight);
+}
+
+void RevealViewControllerSeguePushController::perform() {
+    if (auto* reveal = revealViewController(*ends().source))
+        reveal->pushFrontViewController(ends().destination, Animated::Yes);
+}
+
+}  // namespace tarnwick

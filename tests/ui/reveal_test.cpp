@@ -1,0 +1,285 @@
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QQmlComponent>
+
+#include "platform/QmlEngine.h"
+#include "support/RevealScreen.h"
+
+namespace tarnwick::testing {
+namespace {
+
+constexpr double moved = 0.35;  // seconds, after which a move is over
+
+TEST(Reveal, TogglesOpenAndClosed) {
+    RevealScreen screen;
+    EXPECT_EQ(screen.view().rearView(), nullptr);
+    screen.reveal->revealToggle();
+    EXPECT_EQ(screen.view().rearView()->x(), -40);
+    screen.clock.advance(0.1);
+    EXPECT_GT(screen.x(), 20);
+    EXPECT_LT(screen.x(), 260);
+    screen.clock.advance(moved);
+    EXPECT_EQ(screen.x(), 260);
+    EXPECT_EQ(screen.view().rearView()->x(), 0);
+    EXPECT_EQ(screen.reveal->childForStatusBarStyle(), screen.reveal->rearViewController().get());
+    screen.reveal->revealToggleAnimated(Animated::No);
+    EXPECT_EQ(screen.x(), 0);
+    EXPECT_EQ(screen.view().rearView(), nullptr);
+    EXPECT_EQ(screen.reveal->rearViewController()->view()->parentItem(), nullptr);
+    EXPECT_EQ(screen.diary, (Words{"will move to 4", "animate to 4", "did move to 4",
+                                   "will move to 3", "animate to 3", "did move to 3"}));
+}
+
+TEST(Reveal, TwoTogglesInSuccessionRunOneAfterTheOther) {
+    RevealScreen screen;
+    screen.reveal->setFrontViewPosition(FrontPositionSlidRight, Animated::Yes);
+    screen.reveal->setFrontViewPosition(FrontPositionClosed, Animated::Yes);
+    screen.clock.advance(0.25);
+    EXPECT_GT(screen.x(), 250);
+    EXPECT_EQ(screen.position(), FrontPositionSlidRight);
+    screen.clock.advance(0.1);
+    EXPECT_EQ(screen.position(), FrontPositionClosed);
+    screen.clock.advance(moved);
+    EXPECT_EQ(screen.x(), 0);
+}
+
+TEST(Reveal, ADragGoesAtHalfSpeedBeyondTheMenuAndStopsAtItsEnd) {
+    RevealScreen screen;
+    screen.finger.press({20, 300});
+    screen.finger.move({230, 300});  // 200 beyond the threshold
+    EXPECT_NEAR(screen.x(), 200, 1);
+    EXPECT_FALSE(screen.view().isEnabled());
+    screen.finger.move({330, 300});
+    EXPECT_NEAR(screen.x(), 280, 1);
+    screen.finger.move({420, 300});
+    EXPECT_NEAR(screen.x(), 320, 1);
+    screen.finger.rest(0.3);
+    screen.finger.lift();
+    EXPECT_TRUE(screen.view().isEnabled());
+    screen.clock.advance(moved);
+    EXPECT_EQ(screen.x(), 0);
+    EXPECT_NEAR(screen.listener.endLocation, 320, 1);
+    EXPECT_NEAR(screen.listener.endProgress, 320.0 / 260, 0.01);
+}
+
+TEST(Reveal, ASlowReleaseGoesToTheNearerEndAndBouncesBackFromTheOverdraw) {
+    const std::pair<double, double> rows[] = {{120, 0}, {200, 260}, {300, 0}};
+    for (const auto& [released, end] : rows) {
+        RevealScreen screen;
+        // In the overdraw the finger goes twice as far.
+        screen.dragSlowlyTo(released > 260 ? 260 + 2 * (released - 260) : released);
+        EXPECT_NEAR(screen.listener.endLocation, released, 1);
+        screen.clock.advance(moved);
+        EXPECT_EQ(screen.x(), end) << released;
+    }
+}
+
+TEST(Reveal, AFlickDecidesWhateverTheDistance) {
+    RevealScreen screen;
+    screen.finger.drag({20, 300}, {80, 300}, 0.1);
+    screen.clock.advance(moved);
+    EXPECT_EQ(screen.x(), 260);
+    screen.finger.drag({340, 300}, {280, 300}, 0.1);
+    screen.clock.advance(moved);
+    EXPECT_EQ(screen.x(), 0);
+    EXPECT_EQ(screen.view().rearView(), nullptr);
+}
+
+TEST(Reveal, DoesNotOpenWhereThereIsNothingToReveal) {
+    RevealScreen screen;
+    screen.finger.drag({300, 300}, {100, 300});
+    EXPECT_TRUE(screen.diary.empty());
+    screen.reveal->setFrontViewPosition(FrontPositionSlidLeft);
+    EXPECT_EQ(screen.position(), FrontPositionClosed);
+    screen.listener.panMayBegin = false;
+    screen.finger.drag({20, 300}, {200, 300});
+    EXPECT_EQ(screen.x(), 0);
+    screen.listener.panMayBegin = true;
+    screen.reveal->draggableBorderWidth = 30;
+    screen.finger.drag({60, 300}, {200, 300});
+    EXPECT_EQ(screen.x(), 0);
+}
+
+TEST(Reveal, ADragFromOneSideToTheOtherShowsTheSideThatItUncovers) {
+    RevealScreen screen(true);
+    screen.finger.press({190, 300});
+    screen.finger.move({300, 300});
+    EXPECT_NE(screen.view().rearView(), nullptr);
+    EXPECT_EQ(screen.view().rightView(), nullptr);
+    screen.finger.move({20, 300}, 0.5, 20);
+    EXPECT_EQ(screen.view().rearView(), nullptr);
+    EXPECT_NEAR(screen.x(), -180, 1);
+    screen.finger.rest(0.3);
+    screen.finger.lift();
+    screen.clock.advance(moved);
+    EXPECT_EQ(screen.position(), FrontPositionSlidLeft);
+    EXPECT_EQ(screen.reveal->childForStatusBarHidden(), screen.reveal->rightViewController().get());
+}
+
+TEST(Reveal, ACancelledDragGoesBackToWhereItBegan) {
+    for (const bool bySecondFinger : {true, false}) {
+        RevealScreen screen;
+        screen.finger.press({20, 300});
+        screen.finger.move({200, 300});
+        screen.reveal->setFrontViewPosition(FrontPositionSlidRight, Animated::Yes);  // waits
+        bySecondFinger ? screen.finger.pressSecond({300, 400}) : screen.finger.cancel();
+        screen.clock.advance(0.29);
+        EXPECT_LT(screen.x(), 20);
+        EXPECT_EQ(screen.position(), FrontPositionClosed);
+        screen.clock.advance(moved);
+        EXPECT_EQ(screen.x(), 260);
+        EXPECT_TRUE(screen.view().isEnabled());
+    }
+}
+
+TEST(Reveal, ADragDuringAMoveTakesTheViewOver) {
+    RevealScreen screen;
+    screen.reveal->revealToggle();
+    screen.reveal->revealToggle();
+    screen.clock.advance(0.1);
+    screen.finger.press({300, 300});
+    screen.finger.move({240, 300});
+    EXPECT_NEAR(screen.x(), 210, 1);
+    screen.clock.advance(1.0);
+    EXPECT_NEAR(screen.x(), 210, 1) << "what was asked for waits for the finger";
+    screen.finger.rest(0.3);
+    screen.finger.lift();
+    screen.clock.advance(1.0);
+    EXPECT_EQ(screen.x(), 260);
+}
+
+class RevealOverContent : public ::testing::Test {
+protected:
+    RevealOverContent() {
+        QQmlComponent component(&applicationQmlEngine());
+        component.setData(
+            "import QtQuick\n"
+            "Flickable { contentHeight: 2000; property int presses: 0\n"
+            "  MouseArea { width: 375; height: 2000; onClicked: parent.parent.presses++ } }",
+            QUrl());
+        flickable = qobject_cast<QQuickItem*>(component.create());
+        flickable->setParent(screen.reveal->view());
+        addFillingSubview(screen.reveal->frontViewController()->view(), flickable);
+    }
+
+    RevealScreen screen;
+    QQuickItem* flickable;
+};
+
+TEST_F(RevealOverContent, AVerticalDragScrollsAndAHorizontalOneReveals) {
+    screen.finger.press({100, 500});
+    screen.finger.move({103, 400});
+    screen.finger.move({250, 390});
+    screen.finger.rest(0.3);
+    screen.finger.lift();
+    EXPECT_GT(flickable->property("contentY").toDouble(), 50);
+    EXPECT_EQ(screen.x(), 0);
+    const double scrolled = flickable->property("contentY").toDouble();
+    screen.finger.drag({100, 300}, {300, 340});
+    screen.clock.advance(moved);
+    EXPECT_EQ(screen.x(), 260);
+    EXPECT_EQ(flickable->property("contentY").toDouble(), scrolled);
+    EXPECT_EQ(flickable->property("presses").toInt(), 0);
+}
+
+TEST_F(RevealOverContent, ATapClosesAnOpenFrontAndPressesAClosedOne) {
+    screen.reveal->tapGestureRecognizer();
+    screen.finger.tap({100, 300});
+    EXPECT_EQ(flickable->property("presses").toInt(), 1);
+    screen.reveal->revealToggleAnimated(Animated::No);
+    screen.finger.tap({330, 300});
+    screen.clock.advance(moved);
+    EXPECT_EQ(screen.x(), 0);
+    EXPECT_EQ(flickable->property("presses").toInt(), 1);
+}
+
+TEST(Reveal, PushingSlidesOutReplacesAndCloses) {
+    RevealScreen screen;
+    screen.reveal->revealToggleAnimated(Animated::No);
+    screen.diary.clear();
+    screen.reveal->pushFrontViewController(screen.child("next"), Animated::Yes);
+    screen.clock.advance(0.2);
+    EXPECT_GT(screen.x(), 300);
+    screen.clock.advance(0.15);
+    EXPECT_EQ(screen.view().frontView()->childItems().last(),
+              screen.reveal->frontViewController()->view());
+    screen.clock.advance(moved);
+    EXPECT_EQ(screen.x(), 0);
+    EXPECT_EQ(screen.diary,
+              (Words{"will move to 5", "animate to 5", "did move to 5", "will replace 2",
+                     "next comes", "screen leaves", "screen is out", "next is in", "did replace 2",
+                     "will move to 3", "animate to 3", "screen is gone", "did move to 3"}));
+}
+
+TEST(Reveal, ReplacementsWaitForAMoveAndDissolve) {
+    RevealScreen screen;
+    screen.reveal->revealToggle();
+    const auto next = screen.child("next");
+    screen.reveal->setFrontViewController(next, Animated::Yes);
+    screen.reveal->setFrontViewController(next);  // the same: nothing to change over
+    screen.clock.advance(0.2);
+    EXPECT_FALSE(next->isViewLoaded());
+    screen.clock.advance(0.2);
+    EXPECT_GT(next->view()->opacity(), 0);
+    EXPECT_LT(next->view()->opacity(), 1);
+    screen.clock.advance(0.3);
+    EXPECT_EQ(next->view()->opacity(), 1);
+    EXPECT_EQ(screen.view().frontView()->childItems().last(), next->view());
+    EXPECT_EQ(next->view()->size(), QSizeF(375, 667));
+    screen.reveal->setRearViewController(nullptr);
+    EXPECT_EQ(screen.reveal->rearViewController(), nullptr);
+}
+
+TEST(Reveal, ARemovedPositionTakesTheFrontChildAway) {
+    RevealScreen screen;
+    QQuickItem* front = screen.reveal->frontViewController()->view();
+    screen.reveal->setFrontViewPosition(FrontPositionSlidRightRemoved, Animated::Yes);
+    EXPECT_EQ(front->parentItem(), screen.view().frontView());
+    screen.clock.advance(moved);
+    EXPECT_EQ(front->parentItem(), nullptr);
+    EXPECT_EQ(screen.x(), 320);
+    screen.reveal->revealToggle();
+    EXPECT_EQ(front->parentItem(), screen.view().frontView());
+}
+
+TEST(Reveal, ResizingDuringAMoveLeavesASoundLayout) {
+    RevealScreen screen;
+    screen.reveal->revealToggle();
+    screen.clock.advance(0.1);
+    screen.window.contentItem()->setSize({667, 375});
+    EXPECT_EQ(screen.x(), 260);
+    EXPECT_EQ(screen.view().frontView()->size(), QSizeF(667, 375));
+    EXPECT_EQ(screen.view().rearView()->height(), 375);
+    screen.clock.advance(moved);
+    EXPECT_EQ(screen.diary.back(), "did move to 4");
+    screen.reveal->presentFrontViewHierarchically = true;
+    screen.reveal->setFrontViewPosition(FrontPositionClosed);
+    EXPECT_EQ(screen.view().frontView()->y(), 44);
+    EXPECT_EQ(screen.view().frontView()->height(), 331);
+    EXPECT_NE(screen.view().rearView(), nullptr);
+}
+
+TEST(Reveal, ThePointTestReachesBeyondTheBoundsOnlyWhereItIsExtended) {
+    RevealScreen screen;
+    screen.reveal->revealToggleAnimated(Animated::No);
+    const QPointF onTheFrontOutside(500, 300);
+    EXPECT_FALSE(screen.view().contains(onTheFrontOutside));
+    screen.reveal->extendsPointInsideHit = true;
+    EXPECT_TRUE(screen.view().contains(onTheFrontOutside));
+    EXPECT_FALSE(screen.view().contains({700, 300}));
+}
+
+TEST(Reveal, GoesWithItsChildrenInTheMiddleOfAMove) {
+    RevealScreen screen;
+    screen.reveal->pushFrontViewController(screen.child("next"), Animated::Yes);
+    screen.reveal->revealToggle();
+    screen.clock.advance(0.1);
+    screen.window.setRootViewController(nullptr);
+    screen.reveal.reset();
+    screen.clock.advance(1.0);
+    EXPECT_EQ(std::count(screen.diary.begin(), screen.diary.end(), "next is gone"), 1);
+}
+
+}  // namespace
+}  // namespace tarnwick::testing
