@@ -1,115 +1,167 @@
 #include "gallery/Scenes.h"
 
-#include <QPainter>
-#include <QQuickPaintedItem>
-
-#include "platform/LabelView.h"
+#include "gallery/Gallery.h"
+#include "ui/BarProgressView.h"
 #include "ui/ProgressHUD.h"
 
 namespace tarnwick {
 
 namespace {
 
-// Buttons in the program's blue, and a heading.
-class Screen : public QQuickPaintedItem {
-public:
-    explicit Screen(QQuickItem* parent) : QQuickPaintedItem(parent) { setSize(parent->size()); }
+using Dressing = std::function<void(ProgressHUD& hud)>;
 
-    void paint(QPainter* painter) override {
-        constexpr double space = 16.0;
-        constexpr double rowHeight = 38.0;
-        painter->fillRect(boundingRect(), Qt::white);
-        painter->setRenderHint(QPainter::Antialiasing);
-        QFont font = painter->font();
-        font.setPixelSize(15);
-        painter->setFont(font);
-        for (int row = 0; row < 14; ++row) {
-            const QRectF button(space, space + row * (rowHeight + 8), width() - 2 * space,
-                                rowHeight);
-            painter->setPen(Qt::NoPen);
-            painter->setBrush(QColor::fromRgbF(0, 122 / 255.0F, 1));
-            painter->drawRoundedRect(button, 5, 5);
-            painter->setPen(Qt::white);
-            painter->drawText(button, Qt::AlignCenter, QStringLiteral("Button %1").arg(row + 1));
-        }
-    }
-};
-
-using Dressing = std::function<void(ProgressHUD* hud)>;
-
-Scene hudScene(const QString& name, const Dressing& dress) {
-    return {name, [dress](QQuickItem* screen) {
-                ProgressHUD* hud = ProgressHUD::showHUDAddedTo(screen, Animated::No);
-                dress(hud);
-            }};
-}
+constexpr QSize smallestScreen(320, 480);
 
 const QString longText = QStringLiteral(
     "This takes as long as there are pictures to copy, and the device should stay awake until "
     "then");
 
-}  // namespace
-
-QQuickItem* makeScreen(QQuickItem* parent) {
-    return new Screen(parent);
+Scene hudScene(const QString& title, const QString& name, const Dressing& dress,
+               ProgressHUD::AnimationType animation = ProgressHUD::AnimationFade) {
+    return {"Progress HUD", title, name,
+            [dress, animation](Gallery& gallery) { dress(*gallery.showHud(animation)); }};
 }
 
-std::vector<Scene> scenes() {
-    return {
-        hudScene("hud-indeterminate",
-                 [](ProgressHUD* hud) { hud->setLabelText("Backup in progress..."); }),
-        hudScene("hud-indeterminate-alone", [](ProgressHUD*) {}),
-        hudScene("hud-pie",
-                 [](ProgressHUD* hud) {
-                     hud->setMode(ProgressHUD::ModePie);
-                     hud->setProgress(0.3);
-                     hud->setLabelText("Loading");
-                 }),
-        hudScene("hud-ring",
-                 [](ProgressHUD* hud) {
-                     hud->setMode(ProgressHUD::ModeRing);
-                     hud->setProgress(0.7);
-                     hud->setLabelText("Loading");
-                 }),
-        hudScene("hud-bar-start",
-                 [](ProgressHUD* hud) {
-                     hud->setMode(ProgressHUD::ModeBar);
-                     hud->setProgress(0.05);
-                 }),
-        hudScene("hud-bar-middle",
-                 [](ProgressHUD* hud) {
-                     hud->setMode(ProgressHUD::ModeBar);
-                     hud->setProgress(0.5);
-                     hud->setLabelText("Loading");
-                 }),
-        hudScene("hud-bar-end",
-                 [](ProgressHUD* hud) {
-                     hud->setMode(ProgressHUD::ModeBar);
-                     hud->setProgress(0.97);
-                 }),
-        hudScene("hud-text-only",
-                 [](ProgressHUD* hud) {
-                     hud->setMode(ProgressHUD::ModeTextOnly);
-                     hud->setLabelText("Done");
-                 }),
-        hudScene("hud-details",
-                 [](ProgressHUD* hud) {
-                     hud->setLabelText("Backup in progress...");
-                     hud->setDetailsLabelText(longText);
-                 }),
-        hudScene("hud-square-dimmed",
-                 [](ProgressHUD* hud) {
-                     hud->setLabelText("Loading");
-                     hud->setSquare(true);
-                     hud->setDimBackground(true);
-                 }),
-        hudScene("hud-coloured-shifted",
-                 [](ProgressHUD* hud) {
-                     hud->setLabelText("Restoration in progress...");
-                     hud->setColor(QColor(0x8e, 0x24, 0x3c, 0xe0));
-                     hud->setOffset({0, -150});
-                 }),
+Dressing inMode(ProgressHUD::Mode mode, double progress, const QString& text = {}) {
+    return [mode, progress, text](ProgressHUD& hud) {
+        hud.setMode(mode);
+        hud.setProgress(progress);
+        hud.setLabelText(text);
     };
+}
+
+void withDetails(ProgressHUD& hud) {
+    hud.setLabelText("Backup in progress...");
+    hud.setDetailsLabelText(longText);
+}
+
+void squareAndDimmed(ProgressHUD& hud) {
+    hud.setLabelText("Loading");
+    hud.setSquare(true);
+    hud.setDimBackground(true);
+}
+
+void colouredAndShifted(ProgressHUD& hud) {
+    hud.setLabelText("Restoration in progress...");
+    hud.setColor(QColor(0x8e, 0x24, 0x3c, 0xe0));
+    hud.setOffset({0, -150});
+}
+
+void withOwnView(ProgressHUD& hud) {
+    auto* bar = new BarProgressView(&hud);
+    bar->setProgress(0.4);
+    bar->setProgressColor(QColor(0xff, 0xcc, 0x00));
+    hud.setCustomView(bar);
+    hud.setMode(ProgressHUD::ModeCustomView);
+    hud.setLabelText("A view of one's own");
+}
+
+std::vector<Scene> hudScenes() {
+    using Hud = ProgressHUD;
+    return {
+        hudScene("Spinner", "hud-indeterminate",
+                 inMode(Hud::ModeIndeterminate, 0, "Backup in progress...")),
+        hudScene(
+            "Spinner alone, zooming up", "hud-indeterminate-alone", [](ProgressHUD&) {},
+            Hud::AnimationZoomUp),
+        hudScene("Pie, zooming down", "hud-pie", inMode(Hud::ModePie, 0.3, "Loading"),
+                 Hud::AnimationZoomDown),
+        hudScene("Ring", "hud-ring", inMode(Hud::ModeRing, 0.7, "Loading")),
+        hudScene("Bar, begun", "hud-bar-start", inMode(Hud::ModeBar, 0.05)),
+        hudScene("Bar, half done", "hud-bar-middle", inMode(Hud::ModeBar, 0.5, "Loading")),
+        hudScene("Bar, nearly done", "hud-bar-end", inMode(Hud::ModeBar, 0.97)),
+        hudScene("Text only", "hud-text-only", inMode(Hud::ModeTextOnly, 0, "Done")),
+        hudScene("Own view", "hud-custom", withOwnView),
+        hudScene("Details", "hud-details", withDetails),
+        hudScene("Square, dimmed", "hud-square-dimmed", squareAndDimmed),
+        hudScene("Coloured, shifted", "hud-coloured-shifted", colouredAndShifted),
+    };
+}
+
+Scene alertScene(const QString& title, const QString& name, const Alert& alert,
+                 const QSize& size = {375, 667}) {
+    return {"Alerts", title, name, [alert](Gallery& gallery) { gallery.showAlert(alert); }, size};
+}
+
+Alert withButtons(int others) {
+    Alert alert = {.title = "Restore", .message = "What shall be done next ?"};
+    for (int number = 1; number <= others; ++number)
+        alert.otherButtonTitles.push_back("Choice " + std::to_string(number));
+    return alert;
+}
+
+Alert veryLong() {
+    Alert alert = {.title = "All that there is to say"};
+    for (int line = 1; line <= 60; ++line)
+        alert.message += "Line " + std::to_string(line) + " of a very long message.\n";
+    return alert;
+}
+
+std::vector<Scene> alertScenes() {
+    const Alert close = {.title = "Accounts Backup", .message = "Backup done !"};
+    return {
+        alertScene("One button", "alert-close", close),
+        alertScene("Two buttons", "alert-two",
+                   {.title = "Packages Restore",
+                    .message = "Restoration done ! Do you want to respring now ?",
+                    .otherButtonTitles = {"Respring"}}),
+        alertScene("Three buttons", "alert-three", withButtons(2)),
+        alertScene("No button, for three seconds", "alert-none",
+                   {.message = "Backup in progress...", .cancelButtonTitle = ""}),
+        alertScene("Twelve buttons", "alert-twelve", withButtons(11), smallestScreen),
+        alertScene("Twelve buttons, on its side", "alert-twelve-side", withButtons(11),
+                   smallestScreen.transposed()),
+        alertScene("A very long message", "alert-long", veryLong()),
+        {"Alerts", "Two, one over the other", "alert-stacked",
+         [close](Gallery& gallery) {
+             gallery.showAlert(veryLong());
+             gallery.showAlert(close);
+         }},
+    };
+}
+
+Scene containerScene(const QString& title, const QString& name,
+                     const std::function<void(Gallery&)>& show) {
+    return {"Container", title, name, show};
+}
+
+std::function<void(Gallery&)> atPosition(RevealPosition position) {
+    return [position](Gallery& gallery) {
+        gallery.reveal().presentFrontViewHierarchically = false;
+        gallery.reveal().setFrontViewPosition(position, gallery.animated());
+    };
+}
+
+void hierarchical(Gallery& gallery) {
+    gallery.reveal().presentFrontViewHierarchically = true;
+    gallery.reveal().setFrontViewPosition(FrontPositionSlidRight, gallery.animated());
+}
+
+std::vector<Scene> containerScenes() {
+    return {
+        containerScene("Closed", "container-closed", atPosition(FrontPositionClosed)),
+        containerScene("Menu", "container-menu", atPosition(FrontPositionSlidRight)),
+        containerScene("Menu, all of it", "container-menu-most",
+                       atPosition(FrontPositionSlidRightMost)),
+        containerScene("Front removed", "container-removed",
+                       atPosition(FrontPositionSlidRightRemoved)),
+        containerScene("Right screen", "container-right", atPosition(FrontPositionSlidLeft)),
+        containerScene("Front below the bars", "container-hierarchical", hierarchical),
+        containerScene("Another screen", "container-push",
+                       [](Gallery& gallery) { gallery.push(); }),
+    };
+}
+
+}  // namespace
+
+const std::vector<Scene>& scenes() {
+    static const std::vector<Scene> all = [] {
+        std::vector<Scene> scenes;
+        for (const auto& group : {containerScenes(), alertScenes(), hudScenes()})
+            scenes.insert(scenes.end(), group.begin(), group.end());
+        return scenes;
+    }();
+    return all;
 }
 
 }  // namespace tarnwick

@@ -1,22 +1,24 @@
 #pragma once
 
-#include <QQuickItem>
+#include <QSize>
 #include <QString>
 #include <functional>
 #include <vector>
 
 namespace tarnwick {
 
-// One thing to look at: its name, which is also a picture's file name, and what it puts over the
-// screen.
+class Gallery;
+
+// One thing to look at: its name, which is also a picture's file name, and what it does to the
+// gallery.
 struct Scene {
+    QString group;
+    QString title;
     QString name;
-    std::function<void(QQuickItem* screen)> show;
+    std::function<void(Gallery& gallery)> show;
+    QSize size = {375, 667};  // of the window in its picture
 };
 
-std::vector<Scene> scenes();
-
-// A screen with lines of text and buttons, for something to stand over. Of the parent's size.
-QQuickItem* makeScreen(QQuickItem* parent);
+const std::vector<Scene>& scenes();
 
 }  // namespace tarnwick

@@ -1,65 +1,85 @@
-#include <QCoreApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QGuiApplication>
-#include <QKeyEvent>
+#include <QPainter>
 #include <QProcess>
-#include <QQuickWindow>
 #include <QTextStream>
+#include <QTimer>
 
+#include "gallery/Gallery.h"
 #include "gallery/Scenes.h"
 
 using namespace tarnwick;
 
 namespace {
 
-constexpr QSize phone(375, 667);
+constexpr int restTime = 500;  // milliseconds, after which what fades in is there
 
-// A window that shows one scene at a time.
-class Gallery : public QQuickWindow {
+// All pictures on one sheet, with their names.
+class ContactSheet {
 public:
-    explicit Gallery(const std::vector<Scene>& all) : scenes_(all) {
-        resize(phone);
-        showScene(0);
+    explicit ContactSheet(std::size_t count)
+        : sheet_(columns * cell.width(),
+                 static_cast<int>((count + columns - 1) / columns) * cell.height(),
+                 QImage::Format_RGB32) {
+        sheet_.fill(Qt::white);
     }
 
-    void showScene(int place) {
-        const int count = static_cast<int>(scenes_.size());
-        place_ = (place + count) % count;
-        delete screen_;
-        contentItem()->setSize(QSizeF(size()));
-        screen_ = makeScreen(contentItem());
-        scenes_[static_cast<std::size_t>(place_)].show(screen_);
-        setTitle(scenes_[static_cast<std::size_t>(place_)].name);
+    void add(const QImage& picture, const QString& name) {
+        const QPoint corner(next_ % columns * cell.width(), next_ / columns * cell.height());
+        ++next_;
+        const QRect place(corner + QPoint(margin, margin), cell - QSize(2 * margin, 40));
+        const QImage small =
+            picture.scaled(place.size(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        QPainter painter(&sheet_);
+        painter.drawImage(place.x() + (place.width() - small.width()) / 2, place.y(), small);
+        painter.drawText(QRect(corner + QPoint(0, cell.height() - 32), QSize(cell.width(), 24)),
+                         Qt::AlignCenter, name);
     }
 
-protected:
-    void keyPressEvent(QKeyEvent* event) override {
-        if (event->key() == Qt::Key_Right)
-            showScene(place_ + 1);
-        else if (event->key() == Qt::Key_Left)
-            showScene(place_ - 1);
-    }
+    const QImage& sheet() const { return sheet_; }
 
 private:
-    const std::vector<Scene> scenes_;
-    QQuickItem* screen_ = nullptr;
-    int place_ = 0;
+    static constexpr int columns = 7;
+    static constexpr int margin = 8;
+    static constexpr QSize cell = {196, 364};
+
+    QImage sheet_;
+    int next_ = 0;
 };
 
-int takeShots(const QString& folder, const QString& suffix) {
-    const auto all = scenes();
-    Gallery gallery(all);
+void waitForRest() {
+    QEventLoop loop;
+    QTimer::singleShot(restTime, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+QImage pictureOf(const Scene& scene) {
+    Gallery gallery(Animated::No);
+    gallery.resize(scene.size);
     gallery.show();
-    for (int place = 0; place < static_cast<int>(all.size()); ++place) {
-        gallery.showScene(place);
-        const QString file =
-            folder + "/" + all[static_cast<std::size_t>(place)].name + suffix + ".png";
-        if (!gallery.grabWindow().save(file)) {
-            QTextStream(stderr) << "tarnwick-gallery: cannot write " << file << "\n";
+    QCoreApplication::processEvents();
+    scene.show(gallery);
+    waitForRest();
+    return gallery.grabWindow();
+}
+
+bool save(const QImage& picture, const QString& file) {
+    if (picture.save(file))
+        return true;
+    QTextStream(stderr) << "tarnwick-gallery: cannot write " << file << "\n";
+    return false;
+}
+
+int takeShots(const QString& folder, const QString& suffix) {
+    ContactSheet sheet(scenes().size());
+    for (const Scene& scene : scenes()) {
+        const QImage picture = pictureOf(scene);
+        if (!save(picture, folder + "/" + scene.name + suffix + ".png"))
             return 1;
-        }
+        sheet.add(picture, scene.name);
     }
-    return 0;
+    return save(sheet.sheet(), folder + "/contact-sheet" + suffix + ".png") ? 0 : 1;
 }
 
 // The number of pixels a point is settled before the application object is made: a process for
@@ -94,7 +114,7 @@ int main(int count, char** values) {
         QTextStream(stderr) << "Usage: tarnwick-gallery [--shots FOLDER]\n";
         return 2;
     }
-    Gallery gallery(scenes());
+    Gallery gallery(Animated::Yes);
     gallery.show();
     return QGuiApplication::exec();
 }

@@ -1,0 +1,120 @@
+#include "gallery/Gallery.h"
+
+#include "gallery/Scenes.h"
+#include "platform/NavigationBar.h"
+#include "platform/NavigationController.h"
+#include "platform/Outlet.h"
+#include "platform/Pause.h"
+#include "platform/Storyboard.h"
+#include "platform/TapGestureRecognizer.h"
+#include "ui/ProgressHUD.h"
+#include "ui/RevealSegues.h"
+#include "ui/RevealViewControllerPanGestureRecognizer.h"
+
+// What a library holds is linked in only if something asks for it.
+extern void qml_register_types_Tarnwick_Gallery();
+
+namespace tarnwick {
+
+namespace {
+
+constexpr double busyTime = 3.0;  // seconds
+
+// A screen that opens the menu by its button and by a drag.
+class ScreenController : public ViewController {
+public:
+    Outlet<BarButtonItem> sidebarButton{this, "sidebarButton"};
+
+protected:
+    void viewDidLoad() override {
+        setTitle(scene() == "blue" ? "Gallery" : "Another screen");
+        auto* reveal = revealViewController(*this);
+        sidebarButton->setAction([reveal] { reveal->revealToggle(); });
+        addGestureRecognizer(view(), reveal->panGestureRecognizer());
+    }
+};
+
+QVariantList rows() {
+    QVariantList rows;
+    for (const Scene& scene : scenes())
+        rows.append(QVariantMap{{"group", scene.group}, {"title", scene.title}});
+    return rows;
+}
+
+StoryboardClasses classes() {
+    StoryboardClasses classes;
+    const auto add = [&classes]<class Controller>(const QString& name) {
+        classes.addController(name, [] { return makeViewController<Controller>(); });
+    };
+    add.operator()<RevealViewController>("RevealViewController");
+    add.operator()<NavigationController>("NavigationController");
+    add.operator()<ViewController>("MenuController");
+    add.operator()<ScreenController>("ScreenController");
+    add.operator()<ViewController>("ViewController");
+    classes.addSegue<NavigationRootSegue>("NavigationRootSegue");
+    classes.addSegue<RevealViewControllerSegueSetController>(
+        "RevealViewControllerSegueSetController");
+    classes.addSegue<RevealViewControllerSeguePushController>(
+        "RevealViewControllerSeguePushController");
+    return classes;
+}
+
+void setBarLook() {
+    NavigationBarLook& look = NavigationBarLook::ofApplication();
+    look.barTint = QColor::fromRgbF(0, 122 / 255.0F, 1);
+    look.itemTint = Qt::white;
+    look.titleColor = Qt::white;
+    look.titleFont.setPixelSize(21);
+}
+
+}  // namespace
+
+Gallery::Gallery(Animated animated) : animated_(animated) {
+    qml_register_types_Tarnwick_Gallery();
+    setBarLook();
+    resize(375, 667);
+    setTitle("Gallery");
+    const auto storyboard =
+        Storyboard::load(QUrl("qrc:/qt/qml/Tarnwick/Gallery/GalleryStoryboard.qml"), classes());
+    reveal_ = std::static_pointer_cast<RevealViewController>(
+        storyboard->instantiateInitialViewController());
+    setRootViewController(reveal_);
+    reveal_->tapGestureRecognizer();
+    QQuickItem* menu = reveal_->rearViewController()->view();
+    menu->setProperty("scenes", rows());
+    connect(menu, SIGNAL(chosen(int)), this, SLOT(openScene(int)));
+}
+
+Gallery::~Gallery() = default;
+
+void Gallery::openScene(int place) {
+    reveal_->setFrontViewPosition(FrontPositionClosed, Animated::Yes);
+    scenes().at(static_cast<std::size_t>(place)).show(*this);
+}
+
+ProgressHUD* Gallery::showHud(int animationType) {
+    QQuickItem* screen = reveal_->frontViewController()->view();
+    auto* hud = new ProgressHUD(screen);
+    hud->setParent(screen);
+    hud->setParentItem(screen);
+    hud->removeFromSuperViewOnHide = true;
+    hud->animationType = static_cast<ProgressHUD::AnimationType>(animationType);
+    hud->show(animated_);
+    if (animated_ == Animated::Yes)
+        hud->hideAfterDelay(Animated::Yes, busyTime);
+    return hud;
+}
+
+void Gallery::showAlert(const Alert& alert) {
+    const AlertTicket ticket = alerts().show(alert);
+    if (alert.cancelButtonTitle.empty() && animated_ == Animated::Yes)
+        (new Pause(this))->start(busyTime, [this, ticket] {
+            alerts().dismiss(ticket, 0, Animated::Yes);
+        });
+}
+
+void Gallery::push() {
+    reveal_->rearViewController()->performSegue("push");
+}
+
+}  // namespace tarnwick

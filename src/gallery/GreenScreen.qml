@@ -1,0 +1,3 @@
+import QtQuick
+
+ButtonScreen { color: "#d9f2e0" }
