@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/Action.h"
 #include "platform/Outlet.h"
 #include "platform/Storyboard.h"
 
@@ -22,6 +23,7 @@ QQuickItem* ViewController::view() {
     loadView();
     try {
         connectOutlets();
+        connectActions();
     } catch (const StoryboardError&) {
         delete view_;
         throw;
@@ -45,6 +47,27 @@ void ViewController::connectOutlets() {
         if (!outlet->connectIn(*view_))
             throw StoryboardError(
                 QStringLiteral("scene \"%1\" has no \"%2\"").arg(scene_, outlet->name()));
+}
+
+void ViewController::addAction(const QString& name, std::function<void(QQuickItem*)> action) {
+    actions_[name] = std::move(action);
+}
+
+// A button says which action it is for with `actionName`, or which segue with `segueName`.
+void ViewController::connectActions() {
+    for (QQuickItem* item : view_->findChildren<QQuickItem*>()) {
+        const QString name = item->property("actionName").toString();
+        const QString segue = item->property("segueName").toString();
+        if (!segue.isEmpty())
+            Action::set(item, [this, segue] { performSegue(segue); });
+        if (name.isEmpty())
+            continue;
+        const auto action = actions_.find(name);
+        if (action == actions_.end())
+            throw StoryboardError(
+                QStringLiteral("scene \"%1\": no action \"%2\"").arg(scene_, name));
+        Action::set(item, [action, item] { action->second(item); });
+    }
 }
 
 void ViewController::setTitle(const QString& title) {

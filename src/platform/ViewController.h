@@ -4,6 +4,8 @@
 #include <QPointer>
 #include <QQuickItem>
 #include <QString>
+#include <functional>
+#include <map>
 #include <memory>
 #include <stdexcept>
 #include <vector>
@@ -36,9 +38,9 @@ public:
     ViewController();
     ~ViewController() override;
 
-    // The view; made, with its outlets, on the first call. Throws a StoryboardError if its scene
-    // cannot be made or lacks an outlet; the controller is then without a view. The view goes with
-    // the controller.
+    // The view; made, with its outlets and actions, on the first call. Throws a StoryboardError if
+    // its scene cannot be made, lacks an outlet or names an action that is not there; the
+    // controller is then without a view. The view goes with the controller.
     QQuickItem* view();
     bool isViewLoaded() const { return !view_.isNull(); }
 
@@ -85,6 +87,10 @@ signals:
     void statusBarAppearanceUpdateNeeded();
 
 protected:
+    // Gives what the controller can do a name: a button of the scene with this `actionName` does
+    // it. To be called before the view is loaded.
+    void addAction(const QString& name, std::function<void(QQuickItem* sender)> action);
+
     // Makes the view: that of the scene, or a plain one.
     virtual void loadView();
     virtual void viewDidLoad();
@@ -94,6 +100,7 @@ private:
     friend class OutletBase;
 
     void connectOutlets();
+    void connectActions();
 
     QPointer<QQuickItem> view_;
     QString title_;
@@ -102,6 +109,7 @@ private:
     std::shared_ptr<const Storyboard> storyboard_;
     QString scene_;
     std::vector<OutletBase*> outlets_;
+    std::map<QString, std::function<void(QQuickItem*)>> actions_;
 };
 
 // Makes a controller that is deleted on the main thread, in a later turn of its loop: whoever

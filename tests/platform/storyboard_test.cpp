@@ -43,6 +43,7 @@ Storyboard {
     Scene { identifier: "screen"; controller: "Screen"; view: Qt.resolvedUrl("Screen.qml") }
     Scene { identifier: "bare"; controller: "Screen"; view: Qt.resolvedUrl("Bare.qml") }
     Scene { identifier: "broken"; controller: "Screen"; view: Qt.resolvedUrl("Broken.qml") }
+    Scene { identifier: "acting"; controller: "Screen"; view: Qt.resolvedUrl("Acting.qml") }
     Scene { identifier: "unknown"; controller: "Nobody" }
 })";
 
@@ -51,7 +52,12 @@ public:
     Outlet<QQuickItem> heading{this, "heading"};
     Outlet<BarButtonItem> sidebarButton{this, "sidebarButton"};
     int loads = 0;
+    int presses = 0;
     RevealViewController* container = nullptr;
+
+    Screen() {
+        addAction("press", [this](QQuickItem*) { ++presses; });
+    }
 
 protected:
     void viewDidLoad() override {
@@ -69,7 +75,14 @@ protected:
               "import QtQuick\nimport Tarnwick\n"
               "Item { property BarButtonItem leftBarButtonItem:\n"
               "    BarButtonItem { objectName: \"sidebarButton\"; title: \"Menu\" }\n"
-              "  Flickable { Text { objectName: \"heading\"; text: \"Here\" } } }");
+              "  Flickable { Text { objectName: \"heading\"; text: \"Here\" }\n"
+              "    BareButton { objectName: \"press\"; actionName: \"press\" }\n"
+              "    BareButton { objectName: \"go\"; segueName: \"push\" } } }");
+        write(
+            "Acting.qml",
+            "import QtQuick\nimport Tarnwick\n"
+            "Item { property BarButtonItem item: BarButtonItem { objectName: \"sidebarButton\" }\n"
+            "  Text { objectName: \"heading\" } BareButton { actionName: \"missing\" } }");
         write("Bare.qml", "import QtQuick\nItem { Text { objectName: \"heading\" } }");
         write("Broken.qml", "import QtQuick\nItem { nothing: 1 }");
         storyboard = Storyboard::load(QUrl::fromLocalFile(folder.filePath("Main.qml")), classes());
@@ -125,7 +138,12 @@ TEST_F(StoryboardTest, AContainerLoadsWhatItsSceneHasAndDoesWithoutTheRest) {
 
     reveal->performSegue("another");
     EXPECT_EQ(reveal->rearViewController(), menu) << "its identifier names no child";
-    menu->performSegue("push");
+    const auto click = [&menu](const char* name) {
+        QMetaObject::invokeMethod(menu->view()->findChild<QQuickItem*>(name), "clicked");
+    };
+    click("press");
+    EXPECT_EQ(menu->presses, 1);
+    click("go");
     EXPECT_NE(reveal->frontViewController(), navigation);
 }
 
@@ -153,6 +171,7 @@ TEST_F(StoryboardTest, FaultsAreNamed) {
         {"nowhere", "no scene \"nowhere\""},
         {"unknown", "scene \"unknown\": no class \"Nobody\""},
         {"bare", "scene \"bare\" has no \"sidebarButton\""},
+        {"acting", "no action \"missing\""},
         {"broken", "non-existent property \"nothing\""}};
     for (const auto& [scene, fault] : rows) {
         const std::string found = faultOf(

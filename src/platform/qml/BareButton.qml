@@ -6,6 +6,9 @@ import QtQuick.Templates as T
 T.AbstractButton {
     id: button
 
+    // What pressing it does: one of its controller's actions, or a segue that leaves its scene.
+    property string actionName
+    property string segueName
     property color focusRingColor: "white"
     property real focusRingRadius: 3
 
