@@ -23,15 +23,6 @@ void pointAtNothing(int descriptor) {
 
 }  // namespace
 
-void fillStandardDescriptors() {
-    // A new descriptor takes the lowest free number, so this fills the gaps.
-    int descriptor = 0;
-    while (descriptor >= 0 && descriptor <= STDERR_FILENO)
-        descriptor = ::open("/dev/null", O_RDWR);
-    if (descriptor > STDERR_FILENO)
-        ::close(descriptor);
-}
-
 Streams separateStreams(CommandOutput output) {
     const Streams streams = {setApart(STDIN_FILENO), setApart(STDOUT_FILENO),
                              setApart(STDERR_FILENO)};

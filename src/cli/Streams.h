@@ -11,9 +11,6 @@ struct Streams {
 
 enum class CommandOutput { Discarded, ShownWithProblems };
 
-// Fills closed standard descriptors, so that no file that is opened later can take their numbers.
-void fillStandardDescriptors();
-
 // Sets the caller's streams apart and gives commands their own: they read nothing, and what they
 // print goes where `output` says. Call once, before any command runs.
 Streams separateStreams(CommandOutput output);

@@ -9,7 +9,6 @@
 #include "platform/TapGestureRecognizer.h"
 #include "ui/ProgressHUD.h"
 #include "ui/RevealSegues.h"
-#include "ui/RevealViewControllerPanGestureRecognizer.h"
 
 // What a library holds is linked in only if something asks for it.
 extern void qml_register_types_Tarnwick_Gallery();
@@ -28,9 +27,7 @@ public:
 protected:
     void viewDidLoad() override {
         setTitle(scene() == "blue" ? "Gallery" : "Another screen");
-        auto* reveal = revealViewController(*this);
-        sidebarButton->setAction([reveal] { reveal->revealToggle(); });
-        addGestureRecognizer(view(), reveal->panGestureRecognizer());
+        wireToRevealContainer(*this, *sidebarButton.get());
     }
 };
 

@@ -32,6 +32,13 @@ void addFillingSubview(QQuickItem* superview, QQuickItem* view) {
     new Filling(superview, view);
 }
 
+void pinToWidth(QQuickItem* content, const QQuickItem* view) {
+    const auto pin = [content, view] { content->setWidth(view->width()); };
+    content->setX(0);
+    QObject::connect(view, &QQuickItem::widthChanged, content, pin);
+    pin();
+}
+
 void removeFromSuperview(QQuickItem* view) {
     Filling::endFor(view);
     view->setParentItem(nullptr);

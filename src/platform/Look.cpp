@@ -31,6 +31,10 @@ int Look::headline() {
     return scaled(17);
 }
 
+int Look::callout() {
+    return scaled(15);
+}
+
 int Look::body() {
     return scaled(13);
 }

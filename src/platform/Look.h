@@ -16,6 +16,7 @@ class Look : public QObject {
     Q_PROPERTY(QColor blue READ blue CONSTANT)
     Q_PROPERTY(double textScale READ textScale CONSTANT)
     Q_PROPERTY(int headline READ headline CONSTANT)
+    Q_PROPERTY(int callout READ callout CONSTANT)
     Q_PROPERTY(int body READ body CONSTANT)
 
 public:
@@ -23,6 +24,7 @@ public:
     // 1 for a system's usual font, up to 2 for larger ones.
     static double textScale();
     static int headline();  // titles of alerts, captions of buttons
+    static int callout();   // running text of screens
     static int body();      // messages
 };
 

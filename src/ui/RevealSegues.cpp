@@ -1,6 +1,8 @@
 #include "ui/RevealSegues.h"
 
+#include "platform/NavigationBar.h"
 #include "ui/RevealViewController.h"
+#include "ui/RevealViewControllerPanGestureRecognizer.h"
 
 namespace tarnwick {
 
@@ -10,6 +12,17 @@ RevealViewController* revealViewController(const ViewController& controller) {
         if (auto* reveal = qobject_cast<RevealViewController*>(parent))
             return reveal;
     return nullptr;
+}
+
+void wireToRevealContainer(ViewController& screen, BarButtonItem& sidebarButton) {
+    RevealViewController* reveal = revealViewController(screen);
+    if (reveal == nullptr)
+        return;
+    sidebarButton.setAction([reveal = QPointer(reveal)] {
+        if (reveal)
+            reveal->revealToggle();
+    });
+    addGestureRecognizer(screen.view(), reveal->panGestureRecognizer());
 }
 
 void RevealViewControllerSegueSetController::perform() {

@@ -1,0 +1,50 @@
+#include "app/MainInterface.h"
+
+#include "app/SidebarViewController.h"
+#include "backup/MainViewController.h"
+#include "help/HelpViewController.h"
+#include "options/OptionsViewController.h"
+#include "platform/NavigationController.h"
+#include "restore/RestoreViewController.h"
+#include "ui/RevealSegues.h"
+#include "ui/RevealViewController.h"
+
+// What a library holds is linked in only if something asks for it.
+extern void qml_register_types_Tarnwick_Storyboard();
+
+namespace tarnwick {
+
+namespace {
+
+template <class Controller, class... Arguments>
+void add(StoryboardClasses& classes, const QString& name, Arguments&... arguments) {
+    classes.addController(name,
+                          [&arguments...] { return makeViewController<Controller>(arguments...); });
+}
+
+StoryboardClasses classesFor(const ScreenServices& services) {
+    StoryboardClasses classes;
+    add<RevealViewController>(classes, "RevealViewController");
+    add<NavigationController>(classes, "NavigationController");
+    add<SidebarViewController>(classes, "SidebarViewController");
+    add<MainViewController>(classes, "MainViewController", services);
+    add<RestoreViewController>(classes, "RestoreViewController", services);
+    add<OptionsViewController>(classes, "OptionsViewController", services);
+    add<HelpViewController>(classes, "HelpViewController");
+    classes.addSegue<NavigationRootSegue>("NavigationRootSegue");
+    classes.addSegue<RevealViewControllerSegueSetController>(
+        "RevealViewControllerSegueSetController");
+    classes.addSegue<RevealViewControllerSeguePushController>(
+        "RevealViewControllerSeguePushController");
+    return classes;
+}
+
+}  // namespace
+
+std::shared_ptr<const Storyboard> loadMainStoryboard(const ScreenServices& services) {
+    qml_register_types_Tarnwick_Storyboard();
+    return Storyboard::load(QUrl("qrc:/qt/qml/Tarnwick/Storyboard/MainStoryboard.qml"),
+                            classesFor(services));
+}
+
+}  // namespace tarnwick

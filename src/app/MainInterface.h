@@ -1,0 +1,14 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/Storyboard.h"
+#include "screens/ScreenServices.h"
+
+namespace tarnwick {
+
+// The program's scenes, with the classes of their controllers and segues. The services outlive all
+// that is made from it.
+std::shared_ptr<const Storyboard> loadMainStoryboard(const ScreenServices& services);
+
+}  // namespace tarnwick

@@ -1,0 +1,21 @@
+#include "app/SidebarViewController.h"
+
+namespace tarnwick {
+
+void SidebarViewController::viewDidLoad() {
+    items_ = {"title", "backup", "restore", "cloud", "options", "help"};
+    TableViewController::viewDidLoad();
+}
+
+int SidebarViewController::numberOfRowsInSection(int section) const {
+    static_cast<void>(section);
+    return static_cast<int>(items_.size());
+}
+
+QQuickItem* SidebarViewController::cellForRowAtIndexPath(const IndexPath& path) {
+    QQuickItem* cell = dequeueReusableCellWithIdentifier(items_[path.row]);
+    setSelectionStyle(cell, CellSelectionStyle::Gray);
+    return cell;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QStringList>
+#include <optional>
+
+#include "platform/TableViewController.h"
+
+namespace tarnwick {
+
+// The menu: a heading and a row for each screen. Choosing a row performs the segue of its cell.
+class SidebarViewController : public TableViewController {
+    Q_OBJECT
+
+public:
+    int numberOfSections() const override { return 1; }
+    int numberOfRowsInSection(int section) const override;
+    QQuickItem* cellForRowAtIndexPath(const IndexPath& path) override;
+
+    // Nothing unless it was set: the rows come from a list of the controller's own.
+    const std::optional<QStringList>& menuItems() const { return menuItems_; }
+    void setMenuItems(const QStringList& items) { menuItems_ = items; }
+
+protected:
+    void viewDidLoad() override;
+
+private:
+    QStringList items_;
+    std::optional<QStringList> menuItems_;
+};
+
+}  // namespace tarnwick

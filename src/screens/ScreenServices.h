@@ -1,0 +1,20 @@
+#pragma once
+
+#include "core/CommandRunner.h"
+#include "core/FileManager.h"
+#include "core/ItemCatalogue.h"
+#include "core/TaskQueues.h"
+#include "platform/AlertPresenter.h"
+
+namespace tarnwick {
+
+// What screens work with. All of it outlives them.
+struct ScreenServices {
+    const ItemCatalogue& catalogue;
+    CommandRunner& runner;
+    FileManager& files;
+    TaskQueues& queues;
+    AlertPresenter& alerts;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,131 @@
+// Pictures of the program's screens, their menu, HUD and alerts. Nothing runs for them.
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <QTextStream>
+
+#include "app/AppDelegate.h"
+#include "app/MainInterface.h"
+#include "core/SafeguardPaths.h"
+#include "core/SystemFileManager.h"
+#include "platform/NavigationController.h"
+#include "platform/PlatformQueues.h"
+#include "screens/TaskScreen.h"
+#include "shots/Shots.h"
+#include "ui/RevealViewController.h"
+
+using namespace tarnwick;
+
+namespace {
+
+constexpr QSize phone(375, 667);
+constexpr QSize smallPhone(320, 480);
+constexpr QSize phoneOnItsSide(667, 375);
+constexpr QSize tablet(768, 1024);
+
+class NothingRuns : public CommandRunner {
+public:
+    int run(const std::string&) override { return 0; }
+};
+
+// The program over a folder of its own, with one screen in front.
+class Program : public Window {
+public:
+    explicit Program(const QString& scene) : files_(folder_.path().toStdString()) {
+        files_.createDirectory("/private/var");  // whose figures Options shows
+        AppDelegate(*this, runner_).applicationDidFinishLaunching();
+        const auto storyboard = loadMainStoryboard(services_);
+        reveal_ = std::static_pointer_cast<RevealViewController>(
+            storyboard->instantiateInitialViewController());
+        setRootViewController(reveal_);
+        reveal_->setFrontViewController(storyboard->instantiateViewController(scene + "NC"));
+    }
+
+    RevealViewController& reveal() { return *reveal_; }
+    SystemFileManager& files() { return files_; }
+    ViewController& screen() {
+        auto& navigation = static_cast<NavigationController&>(*reveal_->frontViewController());
+        return *navigation.rootViewController();
+    }
+
+    // Presses a button of the screen, and waits for what is shown then.
+    void press(const char* button) {
+        QMetaObject::invokeMethod(screen().view()->findChild<QQuickItem*>(button), "clicked");
+        constexpr int patience = 2000;  // milliseconds
+        QElapsedTimer waited;
+        for (waited.start(); alerts().numberShown() == 0 && !waited.hasExpired(patience);)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    }
+
+private:
+    QTemporaryDir folder_;
+    NothingRuns runner_;
+    SystemFileManager files_;
+    ItemCatalogue catalogue_;
+    PlatformQueues queues_;
+    ScreenServices services_ = {catalogue_, runner_, files_, queues_, alerts()};
+    std::shared_ptr<RevealViewController> reveal_;
+};
+
+using Staging = std::function<void(Program& program)>;
+
+Shot shotOf(
+    const QString& name, const QString& scene, const QSize& size,
+    const Staging& staging = [](Program&) {}) {
+    return {name, size, [scene] { return std::make_unique<Program>(scene); },
+            [staging](Window& window) { staging(static_cast<Program&>(window)); }};
+}
+
+Staging pressing(const char* button) {
+    return [button](Program& program) { program.press(button); };
+}
+
+// With an archive of the accounts, so that there is something to restore.
+Staging pressingWithArchive(const char* button) {
+    return [button](Program& program) {
+        program.files().createDirectory(paths::archiveFolder);
+        program.files().writeText(std::string(paths::archiveFolder) + "/Accounts.zip", "");
+        program.press(button);
+    };
+}
+
+void openMenu(Program& program) {
+    program.reveal().setFrontViewPosition(FrontPositionSlidRight);
+}
+
+void showHud(Program& program) {
+    static_cast<TaskScreen&>(program.screen()).showHud("Backup in progress...");
+}
+
+std::vector<Shot> shots() {
+    std::vector<Shot> shots;
+    const std::pair<const char*, QSize> sizes[] = {
+        {"small", smallPhone}, {"phone", phone}, {"side", phoneOnItsSide}, {"tablet", tablet}};
+    for (const char* scene : {"backup", "restore", "options", "help"})
+        for (const auto& [suffix, size] : sizes)
+            shots.push_back(shotOf(QString("%1-%2").arg(scene, suffix), scene, size));
+    for (const auto& [suffix, size] : sizes)
+        shots.push_back(shotOf(QString("menu-%1").arg(suffix), "backup", size, openMenu));
+    shots.push_back(shotOf("hud", "backup", phone, showHud));
+    shots.push_back(shotOf("alert-problem", "backup", phone, pressing("accountsButton")));
+    shots.push_back(shotOf("alert-missing", "restore", phone, pressing("accountsButton")));
+    shots.push_back(shotOf("alert-offer", "restore", phone, pressingWithArchive("accountsButton")));
+    shots.push_back(
+        shotOf("alert-confirmation", "restore", phone, pressingWithArchive("allInOneButton")));
+    shots.push_back(
+        shotOf("alert-three", "options", phone, pressing("recreateApplicationFoldersButton")));
+    for (const auto& [suffix, size] : sizes)
+        shots.push_back(shotOf(QString("alert-size-%1").arg(suffix), "options", size,
+                               pressing("backupSizeButton")));
+    return shots;
+}
+
+}  // namespace
+
+int main(int count, char** values) {
+    qputenv("QT_QUICK_BACKEND", "software");
+    if (isToTakeShots(count, values))
+        return takeShots(count, values, shots);
+    QTextStream(stderr) << "Usage: tarnwick-shots --shots FOLDER\n";
+    return 2;
+}
