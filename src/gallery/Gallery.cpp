@@ -1,6 +1,7 @@
 #include "gallery/Gallery.h"
 
 #include "gallery/Scenes.h"
+#include "platform/Look.h"
 #include "platform/NavigationBar.h"
 #include "platform/NavigationController.h"
 #include "platform/Outlet.h"
@@ -58,7 +59,7 @@ StoryboardClasses classes() {
 
 void setBarLook() {
     NavigationBarLook& look = NavigationBarLook::ofApplication();
-    look.barTint = QColor::fromRgbF(0, 122 / 255.0F, 1);
+    look.barTint = Look::blue();
     look.itemTint = Qt::white;
     look.titleColor = Qt::white;
     look.titleFont.setPixelSize(21);

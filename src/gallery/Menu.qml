@@ -8,48 +8,61 @@ Rectangle {
     property var scenes: []
     signal chosen(int place)
 
+    component MenuRow: BareButton {
+        id: row
+
+        width: 260
+        height: 44
+
+        background: Rectangle {
+            color: row.pressed ? "#4a5a6e" : "transparent"
+        }
+        contentItem: Text {
+            leftPadding: 24
+            verticalAlignment: Text.AlignVCenter
+            text: row.text
+            color: "white"
+            font.pixelSize: 15
+            elide: Text.ElideRight
+        }
+    }
+
     color: "#2b3440"
 
-    ListView {
+    Flickable {
         anchors.fill: parent
-        model: menu.scenes
-        delegate: BareButton {
-            id: row
+        contentWidth: width
+        contentHeight: rows.height
 
-            required property var modelData
-            required property int index
+        Column {
+            id: rows
 
-            readonly property bool startsGroup:
-                index === 0 || modelData.group !== menu.scenes[index - 1].group
+            Repeater {
+                model: menu.scenes
 
-            width: 260
-            height: startsGroup ? 80 : 44
-            topPadding: height - 44
-            text: modelData.title
-            onClicked: menu.chosen(index)
+                Column {
+                    id: entry
 
-            Text {
-                visible: row.startsGroup
-                x: 16
-                y: 16
-                text: row.modelData.group
-                color: "#9fb2c8"
-                font { pixelSize: 13; bold: true }
-                Accessible.name: text
-                Accessible.role: Accessible.Heading
-            }
+                    required property var modelData
+                    required property int index
 
-            background: Rectangle {
-                anchors { fill: parent; topMargin: row.topPadding }
-                color: row.pressed ? "#4a5a6e" : "transparent"
-            }
-            contentItem: Text {
-                leftPadding: 32
-                verticalAlignment: Text.AlignVCenter
-                text: row.text
-                color: "white"
-                font.pixelSize: 16
-                elide: Text.ElideRight
+                    Text {
+                        visible: entry.index === 0 || entry.modelData.group !== menu.scenes[entry.index - 1].group
+                        leftPadding: 16
+                        topPadding: 16
+                        bottomPadding: 4
+                        text: entry.modelData.group
+                        color: "#9fb2c8"
+                        font { pixelSize: 13; bold: true }
+                        Accessible.name: text
+                        Accessible.role: Accessible.Heading
+                    }
+
+                    MenuRow {
+                        text: entry.modelData.title
+                        onClicked: menu.chosen(entry.index)
+                    }
+                }
             }
         }
     }

@@ -91,7 +91,7 @@ struct Group {
     }
 
     Completion completion;
-    bool finished = false;
+    bool finished = true;  // unless one of them was overtaken, or its item has gone
 };
 
 QString nameOf(Change::Property property) {
@@ -102,6 +102,9 @@ QString nameOf(Change::Property property) {
 // it.
 class Motion : public QVariantAnimation {
 public:
+    Motion(const Motion&) = delete;
+    Motion& operator=(const Motion&) = delete;
+
     Motion(const Change& change, double seconds, const Course& course, std::shared_ptr<Group> group)
         : QVariantAnimation(change.item),
           change_(change),
@@ -113,10 +116,12 @@ public:
         setStartValue(0.0);
         setEndValue(1.0);
         setDuration(static_cast<int>(std::lround(seconds * 1000.0)));
-        connect(this, &QVariantAnimation::finished, this, [this] {
-            group_->finished = true;
-            leave();
-        });
+        connect(this, &QVariantAnimation::finished, this, [this] { leave(); });
+    }
+
+    ~Motion() override {
+        if (group_)
+            group_->finished = false;
     }
 
     // The number stays where it is. Who drops the group last tells that the changes are over.
@@ -145,7 +150,12 @@ private:
 std::shared_ptr<Group> endMotion(const Change& change) {
     auto* running = change.item->findChild<QVariantAnimation*>(nameOf(change.property),
                                                                Qt::FindDirectChildrenOnly);
-    return running != nullptr ? static_cast<Motion*>(running)->leave() : nullptr;
+    if (running == nullptr)
+        return nullptr;
+    auto group = static_cast<Motion*>(running)->leave();
+    if (group)
+        group->finished = false;
+    return group;
 }
 
 }  // namespace
@@ -161,14 +171,12 @@ double courseProgress(const Course& course, double timePart, double duration) {
 void animate(double duration, const Course& course, const std::vector<Change>& changes,
              Completion completion) {
     const auto group = std::make_shared<Group>(std::move(completion));
-    group->finished = true;  // if there is nothing to move
     // Told when everything here is under way: they may start the next animation.
     std::vector<std::shared_ptr<Group>> overtaken;
     for (const Change& change : changes) {
         overtaken.push_back(endMotion(change));
         if (!overtaken.back() && valueOf(*change.item, change.property) == change.target)
             continue;
-        group->finished = false;
         (new Motion(change, duration, course, group))->start();
     }
 }

@@ -30,7 +30,8 @@ struct Change {
     double target;
 };
 
-// Told once how it ended: finished is false if another animation took all of its properties over.
+// Told once when it is over: finished is false if another animation took one of its properties
+// over, or an item vanished.
 using Completion = std::function<void(bool finished)>;
 
 // Animates the changes together over the duration, in seconds; without a change to make it is over

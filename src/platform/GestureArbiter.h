@@ -22,6 +22,9 @@ public:
     // For every event of the window, before the items have it; yes means that they shall not.
     bool takes(QEvent* event);
 
+    // Ends the gestures of the touch that goes on; nothing more comes of it until all is up.
+    void interrupt();
+
 private:
     using Touch = GestureRecognizer::Touch;
     using Handler = void (GestureRecognizer::*)(const Touch&);
@@ -40,7 +43,6 @@ private:
     void takeFromItems(QPointerEvent* event);
     void preventPress(QPointerEvent* event);
     void deliverHeldMoves(const QPointerEvent* event);
-    void interrupt();
     void forget();
 
     QQuickWindow* window_;

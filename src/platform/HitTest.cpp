@@ -20,7 +20,8 @@ QQuickItem* hitTest(QQuickItem* root, const QPointF& scenePoint) {
     if (!root->isVisible() || !root->isEnabled() || root->opacity() <= 0)
         return nullptr;
     const bool inside = root->contains(root->mapFromScene(scenePoint));
-    if (root->clip() && !inside)
+    const bool bounds = root->clip() || root->property(boundsTouchesProperty).toBool();
+    if (bounds && !inside)
         return nullptr;
     for (QQuickItem* child : childrenFromTheTop(root)) {
         // A negative z is below the parent's own picture.

@@ -32,6 +32,11 @@ void LabelView::setText(const QString& text) {
     update();
 }
 
+void LabelView::setLines(Lines lines) {
+    lines_ = lines;
+    update();
+}
+
 void LabelView::setFont(const QFont& font) {
     font_ = font;
     update();
@@ -61,7 +66,12 @@ void LabelView::paint(QPainter* painter) {
     painter->setRenderHint(QPainter::TextAntialiasing);
     painter->setFont(font_);
     painter->setPen(color_);
-    painter->drawText(boundingRect(), wrapping, text_);
+    if (lines_ == Lines::Wrapped) {
+        painter->drawText(boundingRect(), wrapping, text_);
+        return;
+    }
+    const QString line = QFontMetricsF(font_).elidedText(text_, Qt::ElideRight, width());
+    painter->drawText(boundingRect(), Qt::AlignCenter | Qt::TextSingleLine, line);
 }
 
 }  // namespace tarnwick

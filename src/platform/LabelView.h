@@ -14,6 +14,9 @@ class LabelView : public QQuickPaintedItem {
 public:
     explicit LabelView(QQuickItem* parent);
 
+    enum class Lines { One, Wrapped };
+    // One line is cut with dots where it does not fit.
+    void setLines(Lines lines);
     const QString& text() const { return text_; }
     void setText(const QString& text);
     void setFont(const QFont& font);
@@ -27,6 +30,7 @@ public:
     void paint(QPainter* painter) override;
 
 private:
+    Lines lines_ = Lines::Wrapped;
     QString text_;
     QFont font_;
     QColor color_ = Qt::black;

@@ -6,7 +6,7 @@
 namespace tarnwick {
 
 LifeCycle::LifeCycle(QWindow& window, ApplicationDelegate& delegate)
-    : window_(window), delegate_(delegate) {
+    : window_(window), delegate_(delegate), wasShown_(window.isVisible()) {
     connect(&window, &QWindow::activeChanged, this, &LifeCycle::followFocus);
     connect(&window, &QWindow::visibilityChanged, this, &LifeCycle::followVisibility);
     connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this,

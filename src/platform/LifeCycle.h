@@ -40,7 +40,7 @@ private:
     bool active_ = false;
     bool inBackground_ = false;
     bool closing_ = false;
-    bool wasShown_ = false;
+    bool wasShown_;
 };
 
 }  // namespace tarnwick

@@ -43,6 +43,12 @@ protected:
 }  // namespace
 
 void NavigationController::setRootViewController(const std::shared_ptr<ViewController>& root) {
+    if (root_) {
+        if (root_->isViewLoaded())
+            removeFromSuperview(root_->view());
+        disconnect(root_.get(), nullptr, this, nullptr);
+        root_->removeFromParentViewController();
+    }
     root_ = root;
     addChildViewController(root_);
     root_->didMoveToParentViewController(this);

@@ -14,6 +14,7 @@ public:
     static constexpr const char* segueRootIdentifier = "root";
 
     const std::shared_ptr<ViewController>& rootViewController() const { return root_; }
+    // Takes the place of the one before. Never none.
     void setRootViewController(const std::shared_ptr<ViewController>& root);
 
 protected:

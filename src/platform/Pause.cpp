@@ -1,5 +1,6 @@
 #include "platform/Pause.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -43,6 +44,7 @@ Stopwatch::Stopwatch(QObject* parent) : QObject(parent) {
 void Stopwatch::start() {
     animation_.stop();
     animation_.start();
+    wall_.start();
 }
 
 void Stopwatch::stop() {
@@ -54,7 +56,8 @@ bool Stopwatch::isRunning() const {
 }
 
 double Stopwatch::seconds() const {
-    return animation_.currentTime() / millisecondsInASecond;
+    const qint64 passed = std::max<qint64>(animation_.currentTime(), wall_.elapsed());
+    return static_cast<double>(passed) / millisecondsInASecond;
 }
 
 }  // namespace tarnwick

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QPauseAnimation>
 #include <functional>
 
@@ -24,7 +25,7 @@ private:
     std::function<void()> task_;
 };
 
-// Tells the seconds since it was started.
+// Tells the seconds since it was started; those in which nothing could be animated count too.
 class Stopwatch : public QObject {
     Q_OBJECT
 
@@ -38,6 +39,7 @@ public:
 
 private:
     QPauseAnimation animation_;
+    QElapsedTimer wall_;
 };
 
 }  // namespace tarnwick

@@ -112,7 +112,8 @@ void Stage::uncover() {
 }
 
 void Stage::coverChanged() {
-    setEnabled(!isCovered());
+    inputCover_ = isCovered() ? std::make_unique<Cover>(QList<QQuickItem*>{this}) : nullptr;
+    emit coveredChanged();
     QAccessibleEvent event(this, isCovered() ? QAccessible::ObjectHide : QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&event);
 }

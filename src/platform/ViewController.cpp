@@ -20,8 +20,8 @@ ViewController::~ViewController() {
 QQuickItem* ViewController::view() {
     if (isViewLoaded())
         return view_;
-    loadView();
     try {
+        loadView();
         connectOutlets();
         connectActions();
     } catch (const StoryboardError&) {

@@ -78,6 +78,7 @@ public:
 
     // State restoration; a controller without an identifier is not restored.
     QString restorationIdentifier;
+    const QMetaObject* restorationClass = nullptr;  // that makes it anew; none: its scene does
     virtual void encodeRestorableState(StateCoder& coder) const;
     virtual void decodeRestorableState(const StateCoder& coder);
 

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/Frames.h"
+#include "platform/ScrollToVisible.h"
 #include "platform/ViewController.h"
 
 namespace tarnwick {
@@ -12,6 +13,8 @@ Window::Window()
       stage_(contentItem()),
       alerts_(stage_, *contentItem()) {
     addFillingSubview(contentItem(), &stage_);
+    connect(this, &QQuickWindow::activeFocusItemChanged, this, &Window::followFocus);
+    connect(&stage_, &Stage::coveredChanged, this, [this] { arbiter_.interrupt(); });
 }
 
 Window::~Window() = default;
@@ -21,6 +24,12 @@ void Window::setRootViewController(const std::shared_ptr<ViewController>& root) 
         removeFromSuperview(old->view());
     if (root_)
         addFillingSubview(&stage_, root_->view());
+}
+
+// The keyboard also goes to what is scrolled away.
+void Window::followFocus() {
+    if (const QQuickItem* item = activeFocusItem(); item != nullptr && stage_.isAncestorOf(item))
+        scrollToVisible(item);
 }
 
 bool Window::event(QEvent* event) {

@@ -30,6 +30,8 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    void followFocus();
+
     GestureArbiter arbiter_;
     std::shared_ptr<ViewController> root_;
     Stage stage_;

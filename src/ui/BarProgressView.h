@@ -8,6 +8,7 @@ namespace tarnwick {
 // A determinate indicator: a horizontal bar in a capsule. Every change redraws it. Main thread.
 class BarProgressView : public QQuickPaintedItem {
     Q_OBJECT
+    Q_PROPERTY(double progress READ progress WRITE setProgress)
 
 public:
     explicit BarProgressView(QQuickItem* parent = nullptr);

@@ -31,10 +31,6 @@ QFont boldSystemFont(int size) {
     return font;
 }
 
-QSizeF sizeOf(const QQuickItem* item) {
-    return item != nullptr ? item->size() : QSizeF(0, 0);
-}
-
 void place(QQuickItem* item, const QRectF& frame) {
     if (item == nullptr)
         return;
@@ -82,7 +78,6 @@ ProgressHUD::ProgressHUD(QQuickItem* view)
       detailsLabel_(new LabelView(this)),
       graceTimer_(new Pause(this)),
       minShowTimer_(new Pause(this)),
-      delayedHide_(new Pause(this)),
       sinceShown_(new Stopwatch(this)) {
     Q_ASSERT_X(view != nullptr, "ProgressHUD", "View must not be nil.");
     setSize(view->size());
@@ -90,12 +85,16 @@ ProgressHUD::ProgressHUD(QQuickItem* view)
     setVisible(false);
     setAcceptedMouseButtons(Qt::AllButtons);
     setAcceptTouchEvents(true);
+    label_->setLines(LabelView::Lines::One);
     label_->setFont(boldSystemFont(labelFontSize));
     label_->setColor(Qt::white);
     detailsLabel_->setFont(boldSystemFont(detailsFontSize));
     detailsLabel_->setColor(Qt::white);
     updateIndicators();
+    describeAll();
 }
+
+ProgressHUD::ProgressHUD(QQuickWindow* window) : ProgressHUD(window->contentItem()) {}
 
 ProgressHUD* ProgressHUD::showHUDAddedTo(QQuickItem* view, Animated animated) {
     auto* hud = new ProgressHUD(view);
@@ -188,7 +187,8 @@ void ProgressHUD::hide(Animated animated) {
 }
 
 void ProgressHUD::hideAfterDelay(Animated animated, double delay) {
-    delayedHide_->start(delay, [this, animated] { hide(animated); });
+    delayedHides_.push_back(std::make_unique<Pause>(nullptr));
+    delayedHides_.back()->start(delay, [this, animated] { hide(animated); });
 }
 
 void ProgressHUD::hideNow() {
@@ -210,16 +210,18 @@ void ProgressHUD::hideNow() {
 }
 
 void ProgressHUD::finish() {
-    delayedHide_->cancel();
+    for (const auto& delayed : delayedHides_)
+        delayed->cancel();
     finished_ = true;
-    applyAtOnce({{this, Change::Property::Opacity, 0.0}});
+    applyAtOnce({{this, Change::Property::Opacity, 0.0}, {this, Change::Property::Scale, 1.0}});
     setVisible(false);
     cover_.reset();
     const Block completion = std::exchange(completionBlock, nullptr);
     const QPointer<ProgressHUD> hud = this;
     if (removeFromSuperViewOnHide) {
         setParentItem(nullptr);
-        deleteLater();
+        if (parent() != nullptr)
+            deleteLater();  // nobody else will
     }
     if (completion)
         completion();
@@ -383,25 +385,26 @@ void ProgressHUD::replaceIndicator(QQuickItem* indicator) {
     if (indicator_) {
         indicator_->setParentItem(nullptr);
         // A custom view belongs to who made it.
-        if (indicator_->parent() == this)
+        if (indicator_ != customView_)
             delete indicator_;
     }
     indicator_ = indicator;
-    if (indicator_)
-        indicator_->setParentItem(this);
+    if (indicator_ == nullptr)
+        return;
+    indicatorSize_ = indicator_->size();  // the layout may make it narrower for a while
+    indicator_->setParentItem(this);
     if (mode_ != ModeCustomView)
         passProgressOn();
 }
 
 void ProgressHUD::passProgressOn() {
-    if (auto* round = qobject_cast<RoundProgressView*>(indicator_))
-        round->setProgress(progress_);
-    else if (auto* bar = qobject_cast<BarProgressView*>(indicator_))
-        bar->setProgress(progress_);
+    if (indicator_ && indicator_->metaObject()->indexOfProperty("progress") >= 0)
+        indicator_->setProperty("progress", progress_);
 }
 
 void ProgressHUD::describeAll() {
-    describe(this, QAccessible::AlertMessage, label_->text(), detailsLabel_->text());
+    const QString name = label_->text().isEmpty() ? QStringLiteral("Busy") : label_->text();
+    describe(this, QAccessible::AlertMessage, name, detailsLabel_->text());
 }
 
 void ProgressHUD::redraw() {
@@ -413,7 +416,7 @@ void ProgressHUD::updatePolish() {
         setSize(parentItem()->size());
     layout_ =
         layOut({.bounds = size(),
-                .indicator = sizeOf(indicator_),
+                .indicator = indicator_ ? indicatorSize_ : QSizeF(0, 0),
                 .label = label_->sizeOnOneLine(),
                 .details = [this](const QSizeF& limit) { return detailsLabel_->sizeWithin(limit); },
                 .margin = margin_,

@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QPointer>
 #include <QQuickItem>
+#include <QQuickWindow>
 #include <QThreadPool>
 #include <functional>
 #include <memory>
@@ -49,6 +50,7 @@ public:
 
     // Makes a HUD of the size of the view, which must be there; it is added to nothing yet.
     explicit ProgressHUD(QQuickItem* view);
+    explicit ProgressHUD(QQuickWindow* window);
 
     // Makes a HUD as the view's topmost child and shows it. It is removed and deleted once it is
     // hidden: hold it in a QPointer.
@@ -98,6 +100,7 @@ public:
     AnimationType animationType = AnimationFade;
     double graceTime = 0.0;
     double minShowTime = 0.0;
+    // A HUD that has a QObject parent, as showHUDAddedTo() makes it, is deleted then too.
     bool removeFromSuperViewOnHide = false;
     bool taskInProgress = false;  // a task bound to the HUD runs
     Block completionBlock;        // run once when the HUD has been hidden
@@ -144,6 +147,7 @@ private:
     LabelView* label_;
     LabelView* detailsLabel_;
     QPointer<QQuickItem> indicator_;
+    QSizeF indicatorSize_;
     QPointer<QQuickItem> customView_;
     Mode mode_ = ModeIndeterminate;
     double progress_ = 0.0;
@@ -159,7 +163,7 @@ private:
     std::unique_ptr<Cover> cover_;
     Pause* graceTimer_;
     Pause* minShowTimer_;
-    Pause* delayedHide_;
+    std::vector<std::unique_ptr<Pause>> delayedHides_;
     Stopwatch* sinceShown_;  // runs while the HUD is shown
     WeakDelegate<ProgressHUDDelegate> delegate_;
 };

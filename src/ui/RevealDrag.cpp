@@ -99,13 +99,14 @@ RevealGeometry RevealViewController::geometry() const {
 }
 
 void RevealViewController::beginDrag() {
-    enqueue([] {});  // what is asked for during the drag waits for its end
+    holdQueue();
     panInitialFrontPosition_ = frontViewPosition_;
-    revealView_->setEnabled(false);
+    userInteractionOff_ = std::make_unique<Cover>(QList<QQuickItem*>{revealView_});
     revealView_->disableLayout = true;
+    if (auto* delegate = delegate_.get())
+        delegate->revealControllerPanGestureBegan(*this);
     if (auto* delegate = delegate_.get()) {
         const RevealProgress at = revealProgress(geometry(), frontX());
-        delegate->revealControllerPanGestureBegan(*this);
         delegate->revealControllerPanGestureBeganFromLocationProgressOverProgress(
             *this, frontX(), at.progress, at.overProgress);
     }
@@ -136,21 +137,24 @@ void RevealViewController::prepareSidesFor(RevealPosition position) {
     const auto rearDeployed = deployRear(position);
     rightDeployed();
     rearDeployed();
+    revealView_->raiseShownSide(position);
 }
 
 void RevealViewController::restoreUserInteraction() {
-    revealView_->setEnabled(userInteractionStore_);
+    userInteractionOff_.reset();
+    if (!userInteractionStore_)
+        revealView_->setEnabled(false);
     revealView_->disableLayout = false;
 }
 
 void RevealViewController::notifyDragEnded() {
-    auto* delegate = delegate_.get();
-    if (delegate == nullptr)
-        return;
-    const RevealProgress at = revealProgress(geometry(), frontX());
-    delegate->revealControllerPanGestureEnded(*this);
-    delegate->revealControllerPanGestureEndedToLocationProgressOverProgress(
-        *this, frontX(), at.progress, at.overProgress);
+    if (auto* delegate = delegate_.get())
+        delegate->revealControllerPanGestureEnded(*this);
+    if (auto* delegate = delegate_.get()) {
+        const RevealProgress at = revealProgress(geometry(), frontX());
+        delegate->revealControllerPanGestureEndedToLocationProgressOverProgress(
+            *this, frontX(), at.progress, at.overProgress);
+    }
 }
 
 void RevealViewController::endDrag() {

@@ -79,7 +79,7 @@ void RevealViewController::replace(ChildReplacement operation, const Controller&
                 *this, controller.get(), operation, animated);
         whenDone();
     };
-    if (animated == Animated::Yes && slot != nullptr && old != controller)
+    if (animated == Animated::Yes)
         animateReplacement(operation, old, controller, completion);
     else
         completion();
@@ -120,7 +120,8 @@ void RevealViewController::animateReplacement(ChildReplacement operation, const 
     };
     const auto context = std::make_shared<ContextTransitionObject>(revealView_->slotOf(operation),
                                                                    from, to, guarded);
-    if (animator->transitionDuration(*context) > 0)
+    const bool visible = context->containerView() != nullptr && from != to;
+    if (visible && animator->transitionDuration(*context) > 0)
         animator->animateTransition(context);
     else
         completion();

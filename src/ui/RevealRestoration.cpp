@@ -98,9 +98,12 @@ void RevealViewController::decodeRestorableState(const StateCoder& coder) {
     for (const Restorable& value : Restorable::all())
         if (const QVariant written = coder.decode(value.key); written.isValid())
             value.write(*this, written);
-    setRearViewController(coder.decodeController("_rearViewController"));
-    setFrontViewController(coder.decodeController("_frontViewController"));
-    setRightViewController(coder.decodeController("_rightViewController"));
+    if (const auto rear = coder.decodeController("_rearViewController"))
+        setRearViewController(rear);
+    if (const auto front = coder.decodeController("_frontViewController"))
+        setFrontViewController(front);
+    if (const auto right = coder.decodeController("_rightViewController"))
+        setRightViewController(right);
     if (const QVariant position = coder.decode("_frontViewPosition"); position.isValid())
         setFrontViewPosition(static_cast<RevealPosition>(position.toInt()));
 }
@@ -111,6 +114,7 @@ RevealViewController::Controller RevealViewController::viewControllerWithRestora
         return nullptr;
     auto container = coder.storyboard()->instantiateViewController(containerScene);
     container->restorationIdentifier = path.isEmpty() ? QString() : path.last();
+    container->restorationClass = &staticMetaObject;
     return container;
 }
 

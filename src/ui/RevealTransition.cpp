@@ -33,8 +33,14 @@ void DefaultAnimationController::animateTransition(const Context& context) {
     const auto complete = [context](bool finished) { context->completeTransition(finished); };
     QQuickItem* appearing = context->toView();
     if (appearing == nullptr) {
-        animate(duration_, Easing::InOut, {{context->fromView(), Change::Property::Opacity, 0.0}},
-                complete);
+        QQuickItem* leaving = context->fromView();
+        const double opacity = leaving->opacity();
+        animate(duration_, Easing::InOut, {{leaving, Change::Property::Opacity, 0.0}},
+                [complete, view = QPointer(leaving), opacity](bool finished) {
+                    complete(finished);
+                    if (view)
+                        view->setOpacity(opacity);  // for when it is shown again
+                });
         return;
     }
     // The new view lies on the old one: as it appears, the two dissolve.

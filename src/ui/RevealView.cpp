@@ -4,6 +4,7 @@
 #include <QQuickWindow>
 #include <utility>
 
+#include "platform/HitTest.h"
 #include "platform/Layer.h"
 #include "platform/NavigationBar.h"
 #include "platform/StatusBar.h"
@@ -35,6 +36,7 @@ bool isInside(const QQuickItem* container, const QQuickItem* view,
 RevealView::RevealView(RevealViewController* controller)
     : controller_(controller), frontView_(new QQuickItem(this)) {
     setFiltersChildMouseEvents(true);
+    setProperty(boundsTouchesProperty, true);
     Layer::of(this).setBackgroundColor(Qt::black);
 }
 
@@ -56,20 +58,18 @@ QQuickItem* RevealView::makeSideView() {
     return view;
 }
 
-void RevealView::prepareRearView(RevealPosition position) {
-    if (rearView_ == nullptr) {
-        rearView_ = makeSideView();
-        applyAtOnce(changesFor(frontView_->x()));
-    }
-    raiseShownSide(position);
+void RevealView::prepareRearView() {
+    if (rearView_ != nullptr)
+        return;
+    rearView_ = makeSideView();
+    applyAtOnce(changesFor(frontView_->x()));
 }
 
-void RevealView::prepareRightView(RevealPosition position) {
-    if (rightView_ == nullptr) {
-        rightView_ = makeSideView();
-        applyAtOnce(changesFor(frontView_->x()));
-    }
-    raiseShownSide(position);
+void RevealView::prepareRightView() {
+    if (rightView_ != nullptr)
+        return;
+    rightView_ = makeSideView();
+    applyAtOnce(changesFor(frontView_->x()));
 }
 
 void RevealView::raiseShownSide(RevealPosition position) {
@@ -122,9 +122,12 @@ void RevealView::layoutSubviews() {
 }
 
 void RevealView::dragFrontViewTo(double x) {
-    const double adjusted = adjustedDragLocation(geometry(), x, controller_->frontViewPosition());
-    std::vector<Change> changes = changesFor(adjusted);
-    addFrame(changes, frontView_, frontFrame(adjusted));
+    placeFrontViewAt(adjustedDragLocation(geometry(), x, controller_->frontViewPosition()));
+}
+
+void RevealView::placeFrontViewAt(double x) {
+    std::vector<Change> changes = changesFor(x);
+    addFrame(changes, frontView_, frontFrame(x));
     applyAtOnce(changes);
 }
 
@@ -139,7 +142,11 @@ bool RevealView::contains(const QPointF& point) const {
 
 void RevealView::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
     QQuickItem::geometryChange(newGeometry, oldGeometry);
-    if (newGeometry.size() != oldGeometry.size())
+    if (newGeometry.size() == oldGeometry.size())
+        return;
+    if (disableLayout)
+        placeFrontViewAt(frontView_->x());  // under the finger, in its new size
+    else
         layoutSubviews();
 }
 

@@ -28,9 +28,11 @@ public:
     QQuickItem* slotOf(ChildReplacement operation) const;
 
     // Makes the side view if it is missing, below the front view, where it stands while the front
-    // view is where it is now; and the one that the position shows above the other.
-    void prepareRearView(RevealPosition position);
-    void prepareRightView(RevealPosition position);
+    // view is where it is now.
+    void prepareRearView();
+    void prepareRightView();
+    // The side that the position shows lies above the other one.
+    void raiseShownSide(RevealPosition position);
     void unloadRearView();
     void unloadRightView();
 
@@ -56,8 +58,8 @@ private:
     RevealGeometry geometry() const;
     std::vector<Change> changesFor(double x) const;
     QRectF frontFrame(double x) const;
+    void placeFrontViewAt(double x);
     QQuickItem* makeSideView();
-    void raiseShownSide(RevealPosition position);
 
     RevealViewController* controller_;
     QQuickItem* frontView_;

@@ -142,11 +142,18 @@ void RevealViewController::dequeue() {
         Step(animationQueue_.back())();
 }
 
+void RevealViewController::holdQueue() {
+    // Behind what runs now, and before what waits.
+    animationQueue_.insert(
+        animationQueue_.empty() ? animationQueue_.end() : animationQueue_.end() - 1, [] {});
+}
+
 void RevealViewController::setPosition(RevealPosition position, double duration) {
     const auto rearDeployed = deployRear(position);
     const auto rightDeployed = deployRight(position);
     const auto frontDeployed = deployFront(position);
-    const auto changes = animationStep();
+    revealView_->raiseShownSide(position);
+    const auto changes = animationStep(duration);
     const auto complete = [this, self = weak_from_this(), rearDeployed, rightDeployed,
                            frontDeployed](bool) {
         if (self.expired())
@@ -172,9 +179,12 @@ Course RevealViewController::course(double duration) const {
     return Easing::Out;
 }
 
-std::vector<Change> RevealViewController::animationStep() {
+// What there is to animate; without a duration the layout is there at once.
+std::vector<Change> RevealViewController::animationStep(double duration) {
     emit statusBarAppearanceUpdateNeeded();
     std::vector<Change> changes = revealView_->layoutChanges();
+    if (duration <= 0)
+        applyAtOnce(changes);
     if (auto* delegate = delegate_.get())
         delegate->revealControllerAnimateToPosition(*this, frontViewPosition_, changes);
     return changes;
@@ -187,7 +197,7 @@ RevealViewController::Step RevealViewController::deployRear(RevealPosition posit
         position = FrontPositionClosed;
     const bool wasShown = showsRear(std::exchange(rearViewPosition_, position));
     if (showsRear(position) && !wasShown) {
-        revealView_->prepareRearView(position);
+        revealView_->prepareRearView();
         deploy(rearViewController_, revealView_->rearView());
     } else if (wasShown && !showsRear(position)) {
         return [this, controller = rearViewController_] {
@@ -203,7 +213,7 @@ RevealViewController::Step RevealViewController::deployRight(RevealPosition posi
         position = FrontPositionClosed;
     const bool wasShown = showsRight(std::exchange(rightViewPosition_, position));
     if (showsRight(position) && !wasShown) {
-        revealView_->prepareRightView(position);
+        revealView_->prepareRightView();
         deploy(rightViewController_, revealView_->rightView());
     } else if (wasShown && !showsRight(position)) {
         return [this, controller = rightViewController_] {

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "platform/Animation.h"
+#include "platform/Cover.h"
 #include "platform/GestureRecognizer.h"
 #include "platform/ShadowView.h"
 #include "platform/ViewController.h"
@@ -81,7 +82,8 @@ public:
     ViewController* childForStatusBarHidden() const override;
 
     void encodeRestorableState(StateCoder& coder) const override;
-    // The children and the position are there again when this returns.
+    // The children and the position are there again when this returns, or when the moves that are
+    // under way are over. A child that was written without an identifier stays as it is.
     void decodeRestorableState(const StateCoder& coder) override;
     // A new container from the storyboard that the coder holds; none if it holds none.
     static Controller viewControllerWithRestorationIdentifierPath(const QStringList& path,
@@ -100,18 +102,19 @@ private:
 
     struct Restorable;  // the values that are restored, in their order
 
-    RevealView* revealView() const { return revealView_; }
     void loadStoryboardControllers();
     void reloadShadow();
 
     void enqueue(Step block);
     void dequeue();
+    // Nothing that waits runs until the queue is released by dequeue().
+    void holdQueue();
 
     void setPosition(RevealPosition position, double duration);
     Step deployRear(RevealPosition position);
     Step deployRight(RevealPosition position);
     Step deployFront(RevealPosition position);
-    std::vector<Change> animationStep();
+    std::vector<Change> animationStep(double duration);
     Course course(double duration) const;
 
     void replace(ChildReplacement operation, const Controller& controller, Animated animated,
@@ -137,7 +140,7 @@ private:
     RevealGeometry geometry() const;
     double frontX() const;
 
-    RevealView* revealView_ = nullptr;  // the view, once it is loaded
+    QPointer<RevealView> revealView_;  // the view, once it is loaded
     Controller rearViewController_;
     Controller frontViewController_;
     Controller rightViewController_;
@@ -150,6 +153,7 @@ private:
         .color = Qt::black, .opacity = 1.0, .offset = {0, 2.5}, .radius = 2.5};
     bool clipsViewsToBounds_ = false;
     bool userInteractionStore_ = true;
+    std::unique_ptr<Cover> userInteractionOff_;  // during a drag
     std::deque<Step> animationQueue_;  // the newest at the front, the running one at the back
     std::unique_ptr<RevealViewControllerPanGestureRecognizer> panGestureRecognizer_;
     std::unique_ptr<TapGestureRecognizer> tapGestureRecognizer_;

@@ -8,6 +8,7 @@ namespace tarnwick {
 // A determinate indicator: a pie, or a ring. Every change redraws it. Main thread.
 class RoundProgressView : public QQuickPaintedItem {
     Q_OBJECT
+    Q_PROPERTY(double progress READ progress WRITE setProgress)
 
 public:
     explicit RoundProgressView(QQuickItem* parent = nullptr);

@@ -40,6 +40,10 @@ Storyboard {
         identifier: "screenNC"; controller: "Navigation"
         Segue { identifier: "root"; destination: "screen"; kind: "Root" }
     }
+    Scene {
+        identifier: "brokenNC"; controller: "Navigation"
+        Segue { identifier: "root"; destination: "broken"; kind: "Root" }
+    }
     Scene { identifier: "screen"; controller: "Screen"; view: Qt.resolvedUrl("Screen.qml") }
     Scene { identifier: "bare"; controller: "Screen"; view: Qt.resolvedUrl("Bare.qml") }
     Scene { identifier: "broken"; controller: "Screen"; view: Qt.resolvedUrl("Broken.qml") }
@@ -171,6 +175,7 @@ TEST_F(StoryboardTest, FaultsAreNamed) {
         {"nowhere", "no scene \"nowhere\""},
         {"unknown", "scene \"unknown\": no class \"Nobody\""},
         {"bare", "scene \"bare\" has no \"sidebarButton\""},
+        {"brokenNC", "non-existent property \"nothing\""},
         {"acting", "no action \"missing\""},
         {"broken", "non-existent property \"nothing\""}};
     for (const auto& [scene, fault] : rows) {

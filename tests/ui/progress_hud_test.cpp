@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QQuickWindow>
 #include <QSemaphore>
@@ -80,6 +81,9 @@ TEST_F(ProgressHUDTest, ZoomsTheWayOfItsType) {
         hud.hide(Animated::Yes);
         clock.advance(0.29);
         EXPECT_NEAR(hud.scale(), down ? 0.5 : 1.5, 0.05);
+        hud.show(Animated::No);
+        clock.advance(0.4);
+        EXPECT_TRUE(hud.isVisible()) << "shown again while it went";
     }
 }
 
@@ -211,6 +215,13 @@ TEST_F(ProgressHUDTest, EachModeHasItsIndicator) {
     hud.setMode(ProgressHUD::ModeTextOnly);
     EXPECT_EQ(hud.indicator(), nullptr);
     EXPECT_EQ(custom.parentItem(), nullptr);
+    view.setSize({40, 40});  // narrower than its margins
+    hud.setMode(ProgressHUD::ModePie);
+    hud.ensurePolished();
+    view.setSize({375, 667});
+    hud.ensurePolished();
+    EXPECT_EQ(hud.indicator()->width(), 37);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&hud)->text(QAccessible::Name), "Busy");
 }
 
 TEST(ProgressHUDLayout, StacksItsPartsInTheBox) {

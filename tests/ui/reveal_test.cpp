@@ -133,20 +133,57 @@ TEST(Reveal, ACancelledDragGoesBackToWhereItBegan) {
     }
 }
 
-TEST(Reveal, ADragDuringAMoveTakesTheViewOver) {
+TEST(Reveal, ADragDuringAMoveTakesTheViewOverAndHoldsWhatWaits) {
     RevealScreen screen;
     screen.reveal->revealToggle();
     screen.reveal->revealToggle();
     screen.clock.advance(0.1);
     screen.finger.press({300, 300});
-    screen.finger.move({240, 300});
-    EXPECT_NEAR(screen.x(), 210, 1);
+    screen.finger.move({280, 300}, 0.05, 5);
     screen.clock.advance(1.0);
-    EXPECT_NEAR(screen.x(), 210, 1) << "what was asked for waits for the finger";
-    screen.finger.rest(0.3);
+    EXPECT_NEAR(screen.x(), 250, 1) << "under a finger that rests";
+    EXPECT_NE(screen.view().rearView(), nullptr);
+    EXPECT_EQ(screen.position(), FrontPositionSlidRight);
+    screen.finger.lift();
+    screen.clock.advance(0.2);
+    EXPECT_GT(screen.x(), 250);
+    screen.clock.advance(0.5);
+    EXPECT_EQ(screen.x(), 0) << "the second toggle";
+}
+
+TEST(Reveal, AnAlertTakesTheFrontViewFromTheFinger) {
+    RevealScreen screen;
+    screen.finger.press({20, 300});
+    screen.finger.move({200, 300});
+    screen.window.alerts().show({.title = "Backup", .message = "Done"});
+    screen.finger.move({300, 300});
     screen.finger.lift();
     screen.clock.advance(1.0);
+    EXPECT_EQ(screen.position(), FrontPositionClosed);
+    EXPECT_EQ(screen.x(), 0);
+}
+
+TEST(Reveal, ADelegateMayGoInItsOwnCall) {
+    struct Leaver : QObject, RevealViewControllerDelegate {
+        void revealControllerPanGestureBegan(Reveal&) override { delete this; }
+    };
+    RevealScreen screen;
+    screen.reveal->setDelegate(new Leaver);
+    screen.finger.drag({20, 300}, {200, 300});
+    screen.clock.advance(moved);
     EXPECT_EQ(screen.x(), 260);
+}
+
+TEST(Reveal, TheSideThatIsShownLiesAboveTheOther) {
+    RevealScreen screen(true);
+    screen.reveal->presentFrontViewHierarchically = true;
+    screen.reveal->setFrontViewPosition(FrontPositionSlidLeft);
+    const auto depth = [&screen](QQuickItem* side) {
+        return screen.view().childItems().indexOf(side);
+    };
+    EXPECT_GT(depth(screen.view().rightView()), depth(screen.view().rearView()));
+    screen.reveal->setFrontViewPosition(FrontPositionSlidRight, Animated::Yes);
+    EXPECT_LT(depth(screen.view().rightView()), depth(screen.view().rearView()));
 }
 
 class RevealOverContent : public ::testing::Test {
@@ -229,6 +266,10 @@ TEST(Reveal, ReplacementsWaitForAMoveAndDissolve) {
     EXPECT_EQ(next->view()->size(), QSizeF(375, 667));
     screen.reveal->setRearViewController(nullptr);
     EXPECT_EQ(screen.reveal->rearViewController(), nullptr);
+    screen.reveal->setFrontViewController(nullptr, Animated::Yes);
+    screen.clock.advance(0.3);
+    screen.reveal->setFrontViewController(next);
+    EXPECT_EQ(next->view()->opacity(), 1) << "after it faded out";
 }
 
 TEST(Reveal, ARemovedPositionTakesTheFrontChildAway) {
@@ -253,6 +294,15 @@ TEST(Reveal, ResizingDuringAMoveLeavesASoundLayout) {
     EXPECT_EQ(screen.view().rearView()->height(), 375);
     screen.clock.advance(moved);
     EXPECT_EQ(screen.diary.back(), "did move to 4");
+    screen.finger.press({300, 200});
+    screen.finger.move({200, 200});
+    screen.window.contentItem()->setSize({375, 667});
+    EXPECT_EQ(screen.view().frontView()->height(), 667) << "under the finger";
+    EXPECT_NEAR(screen.x(), 170, 1);
+    screen.window.contentItem()->setSize({667, 375});
+    screen.finger.rest(0.3);
+    screen.finger.lift();
+    screen.clock.advance(moved);
     screen.reveal->presentFrontViewHierarchically = true;
     screen.reveal->setFrontViewPosition(FrontPositionClosed);
     EXPECT_EQ(screen.view().frontView()->y(), 44);
@@ -268,6 +318,15 @@ TEST(Reveal, ThePointTestReachesBeyondTheBoundsOnlyWhereItIsExtended) {
     screen.reveal->extendsPointInsideHit = true;
     EXPECT_TRUE(screen.view().contains(onTheFrontOutside));
     EXPECT_FALSE(screen.view().contains({700, 300}));
+    screen.view().setSize({300, 667});  // the front view juts out
+    screen.finger.drag({340, 300}, {240, 300});
+    screen.clock.advance(moved);
+    EXPECT_EQ(screen.x(), 0);
+    screen.reveal->revealToggleAnimated(Animated::No);
+    screen.reveal->extendsPointInsideHit = false;
+    screen.finger.drag({340, 300}, {240, 300});
+    screen.clock.advance(moved);
+    EXPECT_EQ(screen.x(), 260);
 }
 
 TEST(Reveal, GoesWithItsChildrenInTheMiddleOfAMove) {
