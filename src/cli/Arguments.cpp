@@ -3,6 +3,7 @@
 #include <map>
 
 #include "cli/NearestWord.h"
+#include "mail/MailMessage.h"
 
 namespace tarnwick {
 
@@ -25,10 +26,11 @@ std::vector<std::string> optionWords() {
     return words;
 }
 
-bool Arguments::*flagOf(const std::string& word) {
+// None if it is no option.
+const Option* optionOf(const std::string& word) {
     for (const Option& option : optionTable())
         if (word == option.word || (!word.empty() && word == option.shortWord))
-            return option.flag;
+            return &option;
     return nullptr;
 }
 
@@ -40,12 +42,40 @@ void setAnswer(Arguments& arguments, const std::string& answer) {
         arguments.then = found->second;
 }
 
+void addRecipient(Arguments& arguments, const std::string& address) {
+    if (isWellFormedRecipient(address))
+        arguments.to.push_back(address);
+    else
+        arguments.fault = "\"" + address + "\" is not a mail address";
+}
+
+// Takes an option, and its value from the word itself, after "=", or from the next word. Tells how
+// many words that were.
+std::size_t takeOption(Arguments& arguments, const std::string& word, const std::string& next) {
+    const std::size_t equals = word.find('=');
+    const Option* option = optionOf(word);
+    const Option* withValue = optionOf(word.substr(0, equals));
+    if (option != nullptr && option->take == nullptr) {
+        arguments.*(option->flag) = true;
+    } else if (option != nullptr) {
+        option->take(arguments, next);
+        return 2;
+    } else if (withValue != nullptr && withValue->take != nullptr) {
+        withValue->take(arguments, word.substr(equals + 1));
+    } else {
+        arguments.fault = unknownWord("option", word, optionWords());
+    }
+    return 1;
+}
+
 }  // namespace
 
 const std::vector<Option>& optionTable() {
     static const std::vector<Option> options = {
         {"--yes", "-y", "", "answer confirmations with yes", &Arguments::yes},
-        {"--then", "", "respring|reboot|nothing", "answer the offer after a restore", nullptr},
+        {"--then", "", "respring|reboot|nothing", "answer the offer after a restore", nullptr,
+         setAnswer},
+        {"--to", "", "ADDRESS", "mail to this address; may be repeated", nullptr, addRecipient},
         {"--dry-run", "-n", "",
          "print the command lines and file changes in order and do none of them",
          &Arguments::dryRun},
@@ -65,24 +95,20 @@ std::string unknownWord(const std::string& noun, const std::string& typed,
 
 Arguments parseArguments(const std::vector<std::string>& typed) {
     Arguments arguments;
-    const std::string thenIs = "--then=";
-    for (std::size_t index = 0; index < typed.size() && !arguments.fault; ++index) {
+    for (std::size_t index = 0; index < typed.size() && !arguments.fault;) {
         const std::string& word = typed[index];
-        if (bool Arguments::*flag = flagOf(word)) {
-            arguments.*flag = true;
-        } else if (word == "--then") {
-            setAnswer(arguments, index + 1 < typed.size() ? typed[++index] : "");
-        } else if (word.starts_with(thenIs)) {
-            setAnswer(arguments, word.substr(thenIs.size()));
-        } else if (word == "--") {
+        if (word == "--") {
             arguments.words.insert(arguments.words.end(),
                                    typed.begin() + static_cast<std::ptrdiff_t>(index) + 1,
                                    typed.end());
             return arguments;
-        } else if (word.starts_with("-")) {
-            arguments.fault = unknownWord("option", word, optionWords());
+        }
+        if (word.starts_with("-")) {
+            const bool isLast = index + 1 == typed.size();
+            index += takeOption(arguments, word, isLast ? std::string() : typed[index + 1]);
         } else {
             arguments.words.push_back(word);
+            ++index;
         }
     }
     return arguments;

@@ -19,17 +19,19 @@ struct Arguments {
     bool version = false;
     // The answer to the offer after a restore: Offer::None is "nothing"; not set, ask.
     std::optional<Offer> then;
+    std::vector<std::string> to;  // well-formed addresses
     // What is wrong with the options; the other fields are then not complete.
     std::optional<std::string> fault;
 };
 
-// An option, for the parser and the help alike. One without a flag takes a value.
+// An option, for the parser and the help alike: it sets a flag, or takes a value.
 struct Option {
     std::string word;
     std::string shortWord;
     std::string values;
     std::string purpose;
     bool Arguments::*flag;
+    void (*take)(Arguments& arguments, const std::string& value) = nullptr;
 };
 const std::vector<Option>& optionTable();
 

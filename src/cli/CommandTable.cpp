@@ -95,6 +95,14 @@ std::vector<Command> commandTable(const ItemCatalogue& catalogue) {
          removeSaved},
         {"respring", "", "restart the home screen", Reach::Changes, {}, 0, 0, respringDevice},
         {"reboot", "", "restart the device", Reach::Changes, {}, 0, 0, rebootDevice},
+        {"mail",
+         "[--to ADDRESS]...",
+         "mail the saved package list",
+         Reach::Looks,
+         {},
+         0,
+         0,
+         mailPackageList},
         {"faq", "", "the help texts", Reach::Looks, {}, 0, 0, tellHelpTexts},
     };
 }

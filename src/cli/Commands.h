@@ -29,4 +29,6 @@ ExitStatus removeSaved(Session& session, const std::vector<std::string>& words);
 ExitStatus respringDevice(Session& session, const std::vector<std::string>& words);
 ExitStatus rebootDevice(Session& session, const std::vector<std::string>& words);
 
+ExitStatus mailPackageList(Session& session, const std::vector<std::string>& words);
+
 }  // namespace tarnwick

@@ -35,9 +35,13 @@ bool Questions::confirm(const Alert& alert) {
 }
 
 bool Questions::confirm(const std::string& button) {
-    output_.prompt(button + " ? [y/N] ");
-    const std::string answer = readLine(streams_.input);
+    const std::string answer = ask(button + " ? [y/N] ");
     return answer == "y" || answer == "Y" || answer == "yes" || answer == "Yes";
+}
+
+std::string Questions::ask(const std::string& question) {
+    output_.prompt(question);
+    return readLine(streams_.input);
 }
 
 }  // namespace tarnwick

@@ -16,6 +16,8 @@ public:
     // else, the end of the input included, is a no.
     bool confirm(const Alert& alert);
     bool confirm(const std::string& button);
+    // Reads a line; empty at the end of the input.
+    std::string ask(const std::string& question);
 
 private:
     Streams streams_;

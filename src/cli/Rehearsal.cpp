@@ -22,6 +22,10 @@ std::optional<std::string> RehearsalFileManager::readText(std::string_view path)
     return files_.readText(path);
 }
 
+std::optional<std::string> RehearsalFileManager::readData(std::string_view path) const {
+    return files_.readData(path);
+}
+
 std::uint64_t RehearsalFileManager::fileSize(std::string_view path) const {
     return files_.fileSize(path);
 }

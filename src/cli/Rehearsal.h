@@ -24,6 +24,7 @@ public:
     bool exists(std::string_view path) const override;
     std::optional<std::vector<std::string>> list(std::string_view path) const override;
     std::optional<std::string> readText(std::string_view path) const override;
+    std::optional<std::string> readData(std::string_view path) const override;
     std::uint64_t fileSize(std::string_view path) const override;
     std::optional<std::time_t> modificationTime(std::string_view path) const override;
     std::int64_t fileSystemSize(std::string_view path) const override;

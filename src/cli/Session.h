@@ -31,6 +31,7 @@ struct World {
     FileManager& files;
     bool isRoot;
     std::string lockPath;
+    std::string mailerProgram;
     std::function<SupervisedRun(const std::function<int()>& work,
                                 const std::function<void()>& tidyUp)>
         supervise;

@@ -4,6 +4,7 @@
 #include "core/CommandSurroundings.h"
 #include "core/SystemCommandRunner.h"
 #include "core/SystemFileManager.h"
+#include "mail/Transport.h"
 
 using namespace tarnwick;
 
@@ -20,6 +21,7 @@ int main(int count, char** values) {
         .files = files,
         .isRoot = ::geteuid() == 0,
         .lockPath = "/var/lib/tarnwick.lock",
+        .mailerProgram = systemMailer,
         .supervise = supervise,
     };
     return runCommandLine(arguments, world);

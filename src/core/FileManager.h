@@ -23,6 +23,8 @@ public:
     virtual std::optional<std::vector<std::string>> list(std::string_view path) const = 0;
     // The whole text of a file; none unless it can be read and is valid UTF-8.
     virtual std::optional<std::string> readText(std::string_view path) const = 0;
+    // The whole content of a file, whatever it is; none if it cannot be read.
+    virtual std::optional<std::string> readData(std::string_view path) const = 0;
     // Bytes; 0 if the file cannot be looked at.
     virtual std::uint64_t fileSize(std::string_view path) const = 0;
     // When the file was last changed; none if it cannot be looked at.

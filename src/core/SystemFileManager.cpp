@@ -103,14 +103,18 @@ std::optional<std::vector<std::string>> SystemFileManager::list(std::string_view
 }
 
 std::optional<std::string> SystemFileManager::readText(std::string_view path) const {
+    auto text = readData(path);
+    if (!text || !isValidUtf8(*text))
+        return std::nullopt;
+    return text;
+}
+
+std::optional<std::string> SystemFileManager::readData(std::string_view path) const {
     // Not blocking: whatever stands at the path, a named pipe included, must not hold the run up.
     const Descriptor file(::open(placed(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (!file.isOpen())
         return std::nullopt;
-    auto text = readAll(file.number());
-    if (!text || !isValidUtf8(*text))
-        return std::nullopt;
-    return text;
+    return readAll(file.number());
 }
 
 std::uint64_t SystemFileManager::fileSize(std::string_view path) const {

@@ -10,6 +10,8 @@
 #include <stdexcept>
 #include <vector>
 
+#include "platform/Animation.h"
+
 namespace tarnwick {
 
 class OutletBase;
@@ -72,6 +74,15 @@ public:
     // decides.
     virtual ViewController* childForStatusBarStyle() const { return nullptr; }
     virtual ViewController* childForStatusBarHidden() const { return nullptr; }
+
+    // Slides the controller's view over the content of the window that this one's view is in, and
+    // holds the controller until it is dismissed. Nothing happens without such a window, or while
+    // something else is presented in it.
+    void presentModalViewController(const std::shared_ptr<ViewController>& controller,
+                                    Animated animated);
+    // Slides what this one presented away; the completion is called when it has gone. Nothing
+    // happens if there is nothing, or if it is going already.
+    void dismissViewControllerAnimated(Animated animated, std::function<void()> completion = {});
 
     // Whether a container makes room for the status bar at the top of a flicking view.
     bool automaticallyAdjustsScrollViewInsets = true;

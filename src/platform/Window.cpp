@@ -11,24 +11,31 @@ namespace tarnwick {
 Window::Window()
     : arbiter_(this, [this](QEvent* event) { QQuickWindow::event(event); }),
       stage_(contentItem()),
+      screen_(&stage_),
+      modalPresentation_(screen_, stage_),
       alerts_(stage_, *contentItem()) {
     addFillingSubview(contentItem(), &stage_);
+    addFillingSubview(&stage_, &screen_);
     connect(this, &QQuickWindow::activeFocusItemChanged, this, &Window::followFocus);
     connect(&stage_, &Stage::coveredChanged, this, [this] { arbiter_.interrupt(); });
+    connect(&screen_, &Stage::coveredChanged, this, [this] { arbiter_.interrupt(); });
 }
 
-Window::~Window() = default;
+Window::~Window() {
+    // What had the keyboard goes with its stage, which is then no longer there to be asked.
+    disconnect(this, &QQuickWindow::activeFocusItemChanged, this, nullptr);
+}
 
 void Window::setRootViewController(const std::shared_ptr<ViewController>& root) {
     if (const auto old = std::exchange(root_, root))
         removeFromSuperview(old->view());
     if (root_)
-        addFillingSubview(&stage_, root_->view());
+        addFillingSubview(&screen_, root_->view());
 }
 
-// The keyboard also goes to what is scrolled away.
+// The keyboard also goes to what is scrolled away. A sheet sees to that itself.
 void Window::followFocus() {
-    if (const QQuickItem* item = activeFocusItem(); item != nullptr && stage_.isAncestorOf(item))
+    if (const QQuickItem* item = activeFocusItem(); item != nullptr && screen_.isAncestorOf(item))
         scrollToVisible(item);
 }
 

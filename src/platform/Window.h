@@ -5,14 +5,15 @@
 
 #include "platform/AlertPresenter.h"
 #include "platform/GestureArbiter.h"
+#include "platform/ModalPresentation.h"
 #include "platform/Stage.h"
 
 namespace tarnwick {
 
 class ViewController;
 
-// The application's window: shows one controller's view with alerts over it. Its gesture
-// recognisers see a touch before its items do. Main thread.
+// The application's window: shows one controller's view, a sheet over it, and alerts over both. Its
+// gesture recognisers see a touch before its items do. Main thread.
 class Window : public QQuickWindow {
     Q_OBJECT
 
@@ -25,6 +26,7 @@ public:
     void setRootViewController(const std::shared_ptr<ViewController>& root);
 
     AlertPresenter& alerts() { return alerts_; }
+    ModalPresentation& modalPresentation() { return modalPresentation_; }
 
 protected:
     bool event(QEvent* event) override;
@@ -34,7 +36,9 @@ private:
 
     GestureArbiter arbiter_;
     std::shared_ptr<ViewController> root_;
-    Stage stage_;
+    Stage stage_;   // what alerts cover: the screen and what is presented over it
+    Stage screen_;  // what a sheet covers
+    ModalPresentation modalPresentation_;
     AlertPresenter alerts_;
 };
 

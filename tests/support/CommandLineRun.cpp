@@ -42,11 +42,12 @@ int CommandLineRun::operator()(const std::string& words) {
     for (std::string word; stream >> word;)
         typed.push_back(word);
     const World world = {
-        .streams = {input_, results_, problems_},
+        .streams = {terminal.value_or(input_), results_, terminal.value_or(problems_)},
         .runner = runner,
         .files = files,
         .isRoot = isRoot,
         .lockPath = lockPath,
+        .mailerProgram = mailerProgram,
         .supervise =
             [this](const std::function<int()>& work, const std::function<void()>& tidyUp) {
                 if (end == SupervisedRun::End::Finished)

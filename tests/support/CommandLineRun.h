@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,6 +30,9 @@ public:
     RecordingFileManager files{diary, folder};
     bool isRoot = true;
     std::string lockPath = folder.path() + "/lock";
+    std::string mailerProgram = folder.path() + "/sendmail";
+    // Stands for the input and for what is shown of problems and questions, if there is one.
+    std::optional<int> terminal;
     // How supervised work ends; by default it runs in place.
     SupervisedRun::End end = SupervisedRun::End::Finished;
 

@@ -1,0 +1,67 @@
+#include "mail/CloudViewController.h"
+
+#include "mail/MailMessage.h"
+#include "platform/Frames.h"
+#include "screens/ScreenStyle.h"
+#include "ui/RevealSegues.h"
+
+namespace tarnwick {
+
+namespace {
+
+// Null where there is no data, which is not the same as empty.
+QByteArray bytesOf(const std::optional<std::string>& data) {
+    return data ? QByteArray(data->data(), static_cast<qsizetype>(data->size())) : QByteArray();
+}
+
+}  // namespace
+
+CloudViewController::CloudViewController(const FileManager& files, Mailer& mailer, Log& log)
+    : files_(files), mailer_(mailer), log_(log) {
+    addAction("sendBackup", [this](QQuickItem* sender) { sendBackup(sender); });
+}
+
+void CloudViewController::viewDidLoad() {
+    ViewController::viewDidLoad();
+    setTitle("Cloud");
+    styleButton(sendBackupButton.get());
+    pinToWidth(contentView.get(), view());
+    wireToRevealContainer(*this, *sidebarButton.get());
+}
+
+void CloudViewController::sendBackup(QQuickItem*) {
+    const auto composer = makeViewController<MailComposeViewController>(mailer_);
+    composer->setMailComposeDelegate(this);
+    const MailMessage mail = packageListMail(files_);
+    composer->setSubject(QString::fromStdString(mail.subject));
+    for (const MailAttachment& attachment : mail.attachments)
+        composer->addAttachmentData(bytesOf(attachment.data),
+                                    QString::fromStdString(attachment.type),
+                                    QString::fromStdString(attachment.name));
+    composer->setMessageBody(QString::fromStdString(mail.body), IsHtml::No);
+    presentModalViewController(composer, Animated::Yes);
+}
+
+void CloudViewController::mailComposeControllerDidFinishWithResult(MailComposeViewController&,
+                                                                   MailComposeResult result,
+                                                                   const QString& error) {
+    switch (result) {
+        case MailComposeResultCancelled:
+            log_.write("Mail cancelled");
+            break;
+        case MailComposeResultSaved:
+            log_.write("Mail saved");
+            break;
+        case MailComposeResultSent:
+            log_.write("Mail sent");
+            break;
+        case MailComposeResultFailed:
+            log_.write("Mail sent failure: " + error.toStdString());
+            break;
+        default:
+            break;
+    }
+    dismissViewControllerAnimated(Animated::Yes);
+}
+
+}  // namespace tarnwick

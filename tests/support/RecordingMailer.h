@@ -1,0 +1,33 @@
+#pragma once
+
+#include <utility>
+#include <vector>
+
+#include "platform/Mailer.h"
+
+namespace tarnwick::testing {
+
+// Writes down what it is asked for and answers when the test says so.
+class RecordingMailer : public Mailer {
+public:
+    bool isRecipient(const QString& text) const override {
+        return text.contains('@') && !text.endsWith('@');
+    }
+    void send(const ComposedMail& mail, Answer whenDone) override {
+        sent.push_back(mail);
+        answer_ = std::move(whenDone);
+    }
+    void keepDraft(const ComposedMail& mail, Answer whenDone) override {
+        kept.push_back(mail);
+        answer_ = std::move(whenDone);
+    }
+    void answer(const std::optional<QString>& fault = {}) { std::exchange(answer_, {})(fault); }
+
+    std::vector<ComposedMail> sent;
+    std::vector<ComposedMail> kept;
+
+private:
+    Answer answer_;
+};
+
+}  // namespace tarnwick::testing
