@@ -67,12 +67,15 @@ install_missing() {
     logged set-up install_packages $missing
 }
 
+# All targets, unless some are named.
 configure_and_build() {
-    [ -f "$repository/build/$1/build.ninja" ] || cmake -S "$repository" --preset "$1" || return
-    cmake --build "$repository/build/$1"
+    local preset=$1
+    shift
+    [ -f "$repository/build/$preset/build.ninja" ] || cmake -S "$repository" --preset "$preset" || return
+    cmake --build "$repository/build/$preset" --target "${@:-all}"
 }
 
 # Configures a preset once and builds it.
 build() {
-    logged "$1" configure_and_build "$1"
+    logged "$1" configure_and_build "$@"
 }

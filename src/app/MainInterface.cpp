@@ -3,6 +3,7 @@
 #include "app/SidebarViewController.h"
 #include "backup/MainViewController.h"
 #include "help/HelpViewController.h"
+#include "mail/CloudViewController.h"
 #include "options/OptionsViewController.h"
 #include "platform/NavigationController.h"
 #include "restore/RestoreViewController.h"
@@ -31,6 +32,8 @@ StoryboardClasses classesFor(const ScreenServices& services) {
     add<RestoreViewController>(classes, "RestoreViewController", services);
     add<OptionsViewController>(classes, "OptionsViewController", services);
     add<HelpViewController>(classes, "HelpViewController");
+    add<CloudViewController>(classes, "CloudViewController", services.files, services.mailer,
+                             services.log);
     classes.addSegue<NavigationRootSegue>("NavigationRootSegue");
     classes.addSegue<RevealViewControllerSegueSetController>(
         "RevealViewControllerSegueSetController");

@@ -7,6 +7,8 @@
 #include "core/CommandSurroundings.h"
 #include "core/SystemCommandRunner.h"
 #include "core/SystemFileManager.h"
+#include "core/SystemLog.h"
+#include "mail/ComposerMailer.h"
 #include "platform/PlatformQueues.h"
 #include "platform/Window.h"
 
@@ -36,7 +38,10 @@ int main(int count, char** values) {
     SystemFileManager files;
     Window window;
     PlatformQueues queues;
-    const ScreenServices services = {catalogue, runner, files, queues, window.alerts()};
+    SystemLog log;
+    ComposerMailer mailer(queues);
+    const ScreenServices services = {catalogue,       runner, files, queues,
+                                     window.alerts(), mailer, log};
     AppDelegate delegate(window, runner);
     const LifeCycle lifeCycle(window, delegate);
     delegate.applicationDidFinishLaunching();

@@ -9,6 +9,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "platform/ViewController.h"
@@ -94,7 +95,9 @@ public:
     using MakeController = std::function<std::shared_ptr<ViewController>()>;
     using MakeSegue = std::function<std::unique_ptr<StoryboardSegue>(StoryboardSegue::Ends)>;
 
-    void addController(const QString& name, MakeController make) { controllers_[name] = make; }
+    void addController(const QString& name, MakeController make) {
+        controllers_[name] = std::move(make);
+    }
     template <class Segue>
     void addSegue(const QString& name) {
         segues_[name] = [](StoryboardSegue::Ends ends) {

@@ -3,8 +3,10 @@
 #include "core/CommandRunner.h"
 #include "core/FileManager.h"
 #include "core/ItemCatalogue.h"
+#include "core/Log.h"
 #include "core/TaskQueues.h"
 #include "platform/AlertPresenter.h"
+#include "platform/Mailer.h"
 
 namespace tarnwick {
 
@@ -15,6 +17,8 @@ struct ScreenServices {
     FileManager& files;
     TaskQueues& queues;
     AlertPresenter& alerts;
+    Mailer& mailer;
+    Log& log;
 };
 
 }  // namespace tarnwick

@@ -8,6 +8,8 @@
 #include "app/MainInterface.h"
 #include "core/SafeguardPaths.h"
 #include "core/SystemFileManager.h"
+#include "core/SystemLog.h"
+#include "mail/ComposerMailer.h"
 #include "platform/NavigationController.h"
 #include "platform/PlatformQueues.h"
 #include "screens/TaskScreen.h"
@@ -63,7 +65,9 @@ private:
     SystemFileManager files_;
     ItemCatalogue catalogue_;
     PlatformQueues queues_;
-    ScreenServices services_ = {catalogue_, runner_, files_, queues_, alerts()};
+    ComposerMailer mailer_{queues_};
+    SystemLog log_;
+    ScreenServices services_ = {catalogue_, runner_, files_, queues_, alerts(), mailer_, log_};
     std::shared_ptr<RevealViewController> reveal_;
 };
 
@@ -101,7 +105,7 @@ std::vector<Shot> shots() {
     std::vector<Shot> shots;
     const std::pair<const char*, QSize> sizes[] = {
         {"small", smallPhone}, {"phone", phone}, {"side", phoneOnItsSide}, {"tablet", tablet}};
-    for (const char* scene : {"backup", "restore", "options", "help"})
+    for (const char* scene : {"backup", "restore", "cloud", "options", "help"})
         for (const auto& [suffix, size] : sizes)
             shots.push_back(shotOf(QString("%1-%2").arg(scene, suffix), scene, size));
     for (const auto& [suffix, size] : sizes)

@@ -38,8 +38,8 @@ bool showsFront(RevealPosition position) {
 
 RevealViewController::RevealViewController() = default;
 
-RevealViewController::RevealViewController(Controller rearViewController,
-                                           Controller frontViewController)
+RevealViewController::RevealViewController(const Controller& rearViewController,
+                                           const Controller& frontViewController)
     : RevealViewController() {
     setRearViewController(rearViewController);
     setFrontViewController(frontViewController);

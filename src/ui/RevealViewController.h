@@ -38,7 +38,8 @@ public:
     static constexpr const char* segueRightIdentifier = "sw_right";
 
     RevealViewController();
-    RevealViewController(Controller rearViewController, Controller frontViewController);
+    RevealViewController(const Controller& rearViewController,
+                         const Controller& frontViewController);
     ~RevealViewController() override;
 
     const Controller& rearViewController() const { return rearViewController_; }

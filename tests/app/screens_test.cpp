@@ -8,12 +8,14 @@
 #include "app/MainInterface.h"
 #include "app/SidebarViewController.h"
 #include "core/SystemFileManager.h"
+#include "core/SystemLog.h"
 #include "platform/AlertView.h"
 #include "platform/NavigationController.h"
 #include "platform/PlatformQueues.h"
 #include "platform/Window.h"
 #include "screens/TaskScreen.h"
 #include "support/Finger.h"
+#include "support/RecordingMailer.h"
 #include "support/RecordingRunner.h"
 #include "support/TemporaryFolder.h"
 #include "ui/RevealViewController.h"
@@ -76,15 +78,20 @@ protected:
     SteppedClock clock;
     Window window;
     PlatformQueues queues;
-    ScreenServices services = {catalogue, runner, files, queues, window.alerts()};
+    RecordingMailer mailer;
+    SystemLog log;
+    ScreenServices services = {catalogue, runner, files, queues, window.alerts(), mailer, log};
     AppDelegate delegate{window, runner};
     std::shared_ptr<const Storyboard> storyboard = loadMainStoryboard(services);
     std::shared_ptr<RevealViewController> reveal;
 };
 
 TEST_F(ScreensTest, EveryScreenLoadsWithoutAWarningAtEverySize) {
-    const std::pair<const char*, const char*> rows[] = {
-        {"backup", "Backup"}, {"restore", "Restore"}, {"options", "Options"}, {"help", "Help"}};
+    const std::pair<const char*, const char*> rows[] = {{"backup", "Backup"},
+                                                        {"restore", "Restore"},
+                                                        {"cloud", "Cloud"},
+                                                        {"options", "Options"},
+                                                        {"help", "Help"}};
     for (const auto& [row, title] : rows) {
         choose(row);
         EXPECT_EQ(screen().title(), title);
