@@ -1,6 +1,7 @@
 // Pictures of the program's screens, their menu, HUD and alerts. Nothing runs for them.
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QGuiApplication>
 #include <QTemporaryDir>
 #include <QTextStream>
 
@@ -12,8 +13,8 @@
 #include "mail/ComposerMailer.h"
 #include "platform/NavigationController.h"
 #include "platform/PlatformQueues.h"
-#include "screens/TaskScreen.h"
 #include "shots/Shots.h"
+#include "ui/ProgressHUD.h"
 #include "ui/RevealViewController.h"
 
 using namespace tarnwick;
@@ -25,6 +26,9 @@ constexpr QSize smallPhone(320, 480);
 constexpr QSize phoneOnItsSide(667, 375);
 constexpr QSize tablet(768, 1024);
 
+// Pixels of the font that the person has chosen for the system.
+enum TextSize { UsualText = 15, LargeText = 23 };
+
 class NothingRuns : public CommandRunner {
 public:
     int run(const std::string&) override { return 0; }
@@ -33,7 +37,10 @@ public:
 // The program over a folder of its own, with one screen in front.
 class Program : public Window {
 public:
-    explicit Program(const QString& scene) : files_(folder_.path().toStdString()) {
+    Program(const QString& scene, TextSize textSize) : files_(folder_.path().toStdString()) {
+        QFont font;
+        font.setPixelSize(textSize);
+        QGuiApplication::setFont(font);
         files_.createDirectory("/private/var");  // whose figures Options shows
         AppDelegate(*this, runner_).applicationDidFinishLaunching();
         const auto storyboard = loadMainStoryboard(services_);
@@ -75,8 +82,8 @@ using Staging = std::function<void(Program& program)>;
 
 Shot shotOf(
     const QString& name, const QString& scene, const QSize& size,
-    const Staging& staging = [](Program&) {}) {
-    return {name, size, [scene] { return std::make_unique<Program>(scene); },
+    const Staging& staging = [](Program&) {}, TextSize text = UsualText) {
+    return {name, size, [scene, text] { return std::make_unique<Program>(scene, text); },
             [staging](Window& window) { staging(static_cast<Program&>(window)); }};
 }
 
@@ -98,7 +105,8 @@ void openMenu(Program& program) {
 }
 
 void showHud(Program& program) {
-    static_cast<TaskScreen&>(program.screen()).showHud("Backup in progress...");
+    ProgressHUD* hud = ProgressHUD::showHUDAddedTo(program.screen().view(), Animated::No);
+    hud->setLabelText("Restoration in progress...");
 }
 
 std::vector<Shot> shots() {
@@ -110,6 +118,14 @@ std::vector<Shot> shots() {
             shots.push_back(shotOf(QString("%1-%2").arg(scene, suffix), scene, size));
     for (const auto& [suffix, size] : sizes)
         shots.push_back(shotOf(QString("menu-%1").arg(suffix), "backup", size, openMenu));
+    const std::pair<const char*, Staging> large[] = {{"backup", [](Program&) {}},
+                                                     {"options", [](Program&) {}},
+                                                     {"cloud", openMenu},
+                                                     {"help", showHud},
+                                                     {"restore", pressing("accountsButton")}};
+    for (const auto& [scene, staging] : large)
+        shots.push_back(
+            shotOf(QString("large-%1").arg(scene), scene, smallPhone, staging, LargeText));
     shots.push_back(shotOf("hud", "backup", phone, showHud));
     shots.push_back(shotOf("alert-problem", "backup", phone, pressing("accountsButton")));
     shots.push_back(shotOf("alert-missing", "restore", phone, pressing("accountsButton")));
