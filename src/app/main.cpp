@@ -46,6 +46,7 @@ int main(int count, char** values) {
     const LifeCycle lifeCycle(window, delegate);
     delegate.applicationDidFinishLaunching();
     window.setRootViewController(loadMainStoryboard(services)->instantiateInitialViewController());
+    window.setTitle(QGuiApplication::applicationDisplayName());
     window.resize(375, 667);
     window.show();
     const int status = QGuiApplication::exec();
