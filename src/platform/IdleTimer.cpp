@@ -44,9 +44,12 @@ private:
             new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(message), this);
         connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
             answer->deleteLater();
-            if (const QDBusPendingReply<uint> cookie = *answer; cookie.isValid())
-                cookie_ = cookie.value();
-            follow();
+            const QDBusPendingReply<uint> cookie = *answer;
+            if (!cookie.isValid())
+                return;  // a desktop without the service; asked again when the window comes back
+            cookie_ = cookie.value();
+            if (!window_->isActive())
+                release();
         });
     }
 
