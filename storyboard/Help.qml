@@ -2,8 +2,6 @@ import QtQuick
 import Tarnwick
 
 Page {
-    id: page
-
     component Question: Text {
         width: parent.width
         topPadding: 10

@@ -1,8 +1,6 @@
 import Tarnwick
 
 Storyboard {
-    id: storyboard
-
     component SetController: Segue { kind: "RevealViewControllerSegueSetController" }
     component PushController: Segue { kind: "RevealViewControllerSeguePushController" }
     component NavigationScene: Scene {

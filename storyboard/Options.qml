@@ -2,8 +2,6 @@ import QtQuick
 import Tarnwick
 
 Page {
-    id: page
-
     // A caption and the figure that belongs to it.
     component Figure: Item {
         property alias caption: name.text

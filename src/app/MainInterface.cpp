@@ -5,10 +5,8 @@
 #include "help/HelpViewController.h"
 #include "mail/CloudViewController.h"
 #include "options/OptionsViewController.h"
-#include "platform/NavigationController.h"
 #include "restore/RestoreViewController.h"
 #include "ui/RevealSegues.h"
-#include "ui/RevealViewController.h"
 
 // What a library holds is linked in only if something asks for it.
 extern void qml_register_types_Tarnwick_Storyboard();
@@ -25,8 +23,7 @@ void add(StoryboardClasses& classes, const QString& name, Arguments&... argument
 
 StoryboardClasses classesFor(const ScreenServices& services) {
     StoryboardClasses classes;
-    add<RevealViewController>(classes, "RevealViewController");
-    add<NavigationController>(classes, "NavigationController");
+    addRevealClasses(classes);
     add<SidebarViewController>(classes, "SidebarViewController");
     add<MainViewController>(classes, "MainViewController", services);
     add<RestoreViewController>(classes, "RestoreViewController", services);
@@ -34,11 +31,6 @@ StoryboardClasses classesFor(const ScreenServices& services) {
     add<HelpViewController>(classes, "HelpViewController");
     add<CloudViewController>(classes, "CloudViewController", services.files, services.mailer,
                              services.log);
-    classes.addSegue<NavigationRootSegue>("NavigationRootSegue");
-    classes.addSegue<RevealViewControllerSegueSetController>(
-        "RevealViewControllerSegueSetController");
-    classes.addSegue<RevealViewControllerSeguePushController>(
-        "RevealViewControllerSeguePushController");
     return classes;
 }
 

@@ -3,7 +3,6 @@
 #include "gallery/Scenes.h"
 #include "platform/Look.h"
 #include "platform/NavigationBar.h"
-#include "platform/NavigationController.h"
 #include "platform/Outlet.h"
 #include "platform/Pause.h"
 #include "platform/Storyboard.h"
@@ -44,16 +43,10 @@ StoryboardClasses classes() {
     const auto add = [&classes]<class Controller>(const QString& name) {
         classes.addController(name, [] { return makeViewController<Controller>(); });
     };
-    add.operator()<RevealViewController>("RevealViewController");
-    add.operator()<NavigationController>("NavigationController");
+    addRevealClasses(classes);
     add.operator()<ViewController>("MenuController");
     add.operator()<ScreenController>("ScreenController");
     add.operator()<ViewController>("ViewController");
-    classes.addSegue<NavigationRootSegue>("NavigationRootSegue");
-    classes.addSegue<RevealViewControllerSegueSetController>(
-        "RevealViewControllerSegueSetController");
-    classes.addSegue<RevealViewControllerSeguePushController>(
-        "RevealViewControllerSeguePushController");
     return classes;
 }
 

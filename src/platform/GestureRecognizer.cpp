@@ -43,8 +43,7 @@ GestureRecognizer::GestureRecognizer(std::function<void()> action, QObject* pare
     : QObject(parent), action_(std::move(action)) {}
 
 void GestureRecognizer::setDelegate(GestureRecognizerDelegate* delegate) {
-    delegate_ = delegate;
-    delegateObject_ = dynamic_cast<QObject*>(delegate);
+    delegate_.set(delegate);
 }
 
 QPointF GestureRecognizer::location(const QQuickItem* view) const {
@@ -98,12 +97,12 @@ void GestureRecognizer::cancel() {
 }
 
 bool GestureRecognizer::shouldBegin() {
-    return delegateObject_.isNull() || delegate_->gestureRecognizerShouldBegin(*this);
+    return delegate_.get() == nullptr || delegate_.get()->gestureRecognizerShouldBegin(*this);
 }
 
 bool GestureRecognizer::agreesToRunWith(GestureRecognizer& other) {
-    return !delegateObject_.isNull() &&
-           delegate_->gestureRecognizerShouldRecognizeSimultaneouslyWith(*this, other);
+    return delegate_.get() != nullptr &&
+           delegate_.get()->gestureRecognizerShouldRecognizeSimultaneouslyWith(*this, other);
 }
 
 void addGestureRecognizer(QQuickItem* view, GestureRecognizer* recognizer) {

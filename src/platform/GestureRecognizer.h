@@ -8,6 +8,8 @@
 #include <optional>
 #include <vector>
 
+#include "platform/WeakDelegate.h"
+
 namespace tarnwick {
 
 class GestureArbiter;
@@ -85,8 +87,7 @@ private:
     bool agreesToRunWith(GestureRecognizer& other);
 
     std::function<void()> action_;
-    GestureRecognizerDelegate* delegate_ = nullptr;
-    QPointer<QObject> delegateObject_;
+    WeakDelegate<GestureRecognizerDelegate> delegate_;
     GestureState state_ = GestureState::Possible;
     std::optional<GestureState> wish_;
     QPointer<QQuickItem> touchedView_;

@@ -1,6 +1,7 @@
 #include "ui/RevealSegues.h"
 
 #include "platform/NavigationBar.h"
+#include "platform/NavigationController.h"
 #include "ui/RevealViewController.h"
 #include "ui/RevealViewControllerPanGestureRecognizer.h"
 
@@ -23,6 +24,18 @@ void wireToRevealContainer(ViewController& screen, BarButtonItem& sidebarButton)
             reveal->revealToggle();
     });
     addGestureRecognizer(screen.view(), reveal->panGestureRecognizer());
+}
+
+void addRevealClasses(StoryboardClasses& classes) {
+    classes.addController("RevealViewController",
+                          [] { return makeViewController<RevealViewController>(); });
+    classes.addController("NavigationController",
+                          [] { return makeViewController<NavigationController>(); });
+    classes.addSegue<NavigationRootSegue>("NavigationRootSegue");
+    classes.addSegue<RevealViewControllerSegueSetController>(
+        "RevealViewControllerSegueSetController");
+    classes.addSegue<RevealViewControllerSeguePushController>(
+        "RevealViewControllerSeguePushController");
 }
 
 void RevealViewControllerSegueSetController::perform() {

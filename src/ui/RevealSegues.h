@@ -14,6 +14,10 @@ RevealViewController* revealViewController(const ViewController& controller);
 // as well. Nothing is wired outside a container. The screen's view is loaded by then.
 void wireToRevealContainer(ViewController& screen, BarButtonItem& sidebarButton);
 
+// Adds what a storyboard with a container needs: the container, navigation controllers, and the
+// segues of both.
+void addRevealClasses(StoryboardClasses& classes);
+
 // Makes the destination a child of the container that the segue starts from: "sw_front", "sw_rear"
 // or "sw_right" says which; another identifier does nothing.
 class RevealViewControllerSegueSetController : public StoryboardSegue {

@@ -18,7 +18,7 @@ QQuickItem* ContextTransitionObject::viewOf(const Controller& controller) {
 }
 
 void ContextTransitionObject::completeTransition(bool finished) {
-    cancelled_ = !finished;
+    static_cast<void>(finished);
     if (const auto completion = std::exchange(completion_, nullptr))
         completion();
 }

@@ -26,9 +26,8 @@ public:
     QQuickItem* fromView() const { return viewOf(from_); }
     QQuickItem* toView() const { return viewOf(to_); }
 
-    // To be called once when the animation has ended, whichever way it did.
+    // To be called once when the animation has ended; the replacement is complete however it ended.
     void completeTransition(bool finished);
-    bool wasCancelled() const { return cancelled_; }
 
 private:
     static QQuickItem* viewOf(const Controller& controller);
@@ -37,7 +36,6 @@ private:
     Controller from_;
     Controller to_;
     std::function<void()> completion_;
-    bool cancelled_ = false;
 };
 
 // Animates replacements.
