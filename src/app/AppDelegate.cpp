@@ -1,8 +1,12 @@
 #include "app/AppDelegate.h"
 
+#include <sys/utsname.h>
+
+#include "app/DeviceModel.h"
 #include "platform/IdleTimer.h"
 #include "platform/Look.h"
 #include "platform/NavigationBar.h"
+#include "platform/Window.h"
 
 namespace tarnwick {
 
@@ -29,14 +33,20 @@ void setNavigationBarLook() {
 
 }  // namespace
 
-bool AppDelegate::applicationDidFinishLaunching() {
+bool AppDelegate::applicationDidFinishLaunchingWithOptions(const LaunchOptions& options) {
     setIdleTimerDisabled(&window_);
     setNavigationBarLook();
+    routeLaunch(options);
     return true;
 }
 
 void AppDelegate::applicationDidEnterBackground() {
-    runner_.run("/usr/bin/killall RootTarnwick2");
+    services_.runner.run("/usr/bin/killall RootTarnwick2");
+}
+
+std::optional<std::string> AppDelegate::platformType() const {
+    utsname system = {};
+    return ::uname(&system) == 0 ? platformTypeOf(system.machine) : std::nullopt;
 }
 
 }  // namespace tarnwick

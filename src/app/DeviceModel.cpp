@@ -1,7 +1,5 @@
 #include "app/DeviceModel.h"
 
-#include <sys/utsname.h>
-
 #include <algorithm>
 #include <iterator>
 #include <string_view>
@@ -49,11 +47,6 @@ std::optional<std::string> platformTypeOf(const std::string& machine) {
     if (length > 0)
         return machine.substr(0, length);
     return std::nullopt;
-}
-
-std::optional<std::string> platformType() {
-    utsname system = {};
-    return ::uname(&system) == 0 ? platformTypeOf(system.machine) : std::nullopt;
 }
 
 }  // namespace tarnwick

@@ -9,7 +9,4 @@ namespace tarnwick {
 // none if it belongs to no family.
 std::optional<std::string> platformTypeOf(const std::string& machine);
 
-// The same for the machine that the program runs on.
-std::optional<std::string> platformType();
-
 }  // namespace tarnwick

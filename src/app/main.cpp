@@ -1,20 +1,24 @@
 #include <unistd.h>
 
 #include <QGuiApplication>
+#include <QTimer>
+#include <algorithm>
+#include <chrono>
+#include <iostream>
+#include <optional>
 
-#include "app/AppDelegate.h"
-#include "app/MainInterface.h"
+#include "app/Program.h"
+#include "app/QuickActions.h"
+#include "app/StartOptions.h"
+#include "app/StartersIdentity.h"
 #include "core/CommandSurroundings.h"
-#include "core/SystemCommandRunner.h"
-#include "core/SystemFileManager.h"
-#include "core/SystemLog.h"
-#include "mail/ComposerMailer.h"
-#include "platform/PlatformQueues.h"
-#include "platform/Window.h"
+#include "platform/SessionApplication.h"
 
 using namespace tarnwick;
 
 namespace {
+
+enum ExitStatus { Done = 0, NoAnswer = 1, WrongUsage = 2 };
 
 // Without the rights, each command fails in its own way.
 void becomeRoot() {
@@ -22,36 +26,97 @@ void becomeRoot() {
     static_cast<void>(::setgid(0));
 }
 
+void prepareToolkit() {
+    // What is drawn needs no graphics card, and starts faster without one.
+    qputenv("QT_QUICK_BACKEND", "software");
+    if (qEnvironmentVariableIsSet("WAYLAND_DISPLAY") &&
+        qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "wayland;xcb");
+    QGuiApplication::setApplicationName("Tarnwick");
+    QGuiApplication::setApplicationDisplayName("Tarnwick");
+    QGuiApplication::setDesktopFileName(applicationId);
+}
+
+// The program as its toolkit and its session know it.
+struct Presence {
+    explicit Presence(uid_t starter)
+        : application(wordCount, words), session(applicationId, starter) {}
+
+    int wordCount = 1;
+    char name[14] = "RootTarnwick2";
+    char* words[2] = {name, nullptr};
+    QGuiApplication application;
+    SessionApplication session;
+};
+
+int handOver(const SessionApplication& session, const StartOptions& options) {
+    if (options.isService)
+        return Done;
+    const auto action =
+        options.action ? std::optional(QString::fromStdString(*options.action)) : std::nullopt;
+    if (session.handOver(action))
+        return Done;
+    std::cerr << "RootTarnwick2: it is running already, and does not answer\n";
+    return NoAnswer;
+}
+
+// A service that nobody calls ends.
+void waitForFirstCall(const Program& program) {
+    using namespace std::chrono_literals;
+    QTimer::singleShot(10s, [&program] {
+        if (!program.isLaunched())
+            QCoreApplication::quit();
+    });
+}
+
+int run(const StartOptions& options, SessionApplication& session) {
+    Program program;
+    const QObject listener;  // goes before the program
+    QObject::connect(&session, &SessionApplication::activated, &listener,
+                     [&program] { program.activate(); });
+    QObject::connect(&session, &SessionApplication::actionActivated, &listener,
+                     [&program](const QString& name) { program.activateAction(name); });
+    if (options.isService)
+        waitForFirstCall(program);
+    else if (options.action)
+        program.activateAction(QString::fromStdString(*options.action));
+    else
+        program.activate();
+    return QGuiApplication::exec();
+}
+
+int start(const StartOptions& options, uid_t starter) {
+    prepareForCommands();
+    prepareToolkit();
+    std::optional<Presence> presence;
+    {
+        const StartersIdentity identity(starter);
+        presence.emplace(starter);
+    }
+    if (presence->session.isRunningElsewhere())
+        return handOver(presence->session, options);
+    return run(options, presence->session);
+}
+
 }  // namespace
 
 int main(int count, char** values) {
+    const uid_t starter = ::getuid();
     becomeRoot();
-    prepareForCommands();
-    // What is drawn needs no graphics card, and starts faster without one.
-    qputenv("QT_QUICK_BACKEND", "software");
-    QGuiApplication application(count, values);
-    QGuiApplication::setApplicationName("Tarnwick");
-    QGuiApplication::setApplicationDisplayName("Tarnwick");
-
-    const ItemCatalogue catalogue;
-    SystemCommandRunner runner;
-    SystemFileManager files;
-    Window window;
-    PlatformQueues queues;
-    SystemLog log;
-    ComposerMailer mailer(queues);
-    const ScreenServices services = {catalogue,       runner, files, queues,
-                                     window.alerts(), mailer, log};
-    AppDelegate delegate(window, runner);
-    const LifeCycle lifeCycle(window, delegate);
-    delegate.applicationDidFinishLaunching();
-    window.setRootViewController(loadMainStoryboard(services)->instantiateInitialViewController());
-    window.setTitle(QGuiApplication::applicationDisplayName());
-    window.resize(375, 667);
-    window.show();
-    const int status = QGuiApplication::exec();
-    // Screens go before what they work with.
-    window.setRootViewController(nullptr);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    return status;
+    const auto options = parseStartOptions({values + std::min(count, 1), values + count});
+    if (!options) {
+        std::cerr << startHelp;
+        return WrongUsage;
+    }
+    switch (options->purpose) {
+        case StartOptions::Purpose::TellHelp:
+            std::cout << startHelp;
+            return Done;
+        case StartOptions::Purpose::TellVersion:
+            std::cout << "RootTarnwick2 " TARNWICK_VERSION "\n";
+            return Done;
+        case StartOptions::Purpose::Run:
+            break;
+    }
+    return start(*options, starter);
 }

@@ -2,6 +2,9 @@
 
 #include <QObject>
 #include <QWindow>
+#include <functional>
+
+#include "platform/ShortcutItem.h"
 
 namespace tarnwick {
 
@@ -11,7 +14,11 @@ public:
     virtual ~ApplicationDelegate() = default;
 
     // Before the first frame.
-    virtual bool applicationDidFinishLaunching() = 0;
+    virtual bool applicationDidFinishLaunchingWithOptions(const LaunchOptions& options) = 0;
+    // A quick action was chosen while the application runs. The handler may be called with whether
+    // it was done.
+    virtual void applicationPerformActionForShortcutItem(
+        const ShortcutItem& item, std::function<void(bool)> completionHandler) = 0;
     virtual void applicationWillResignActive() {}
     virtual void applicationDidEnterBackground() {}
     virtual void applicationWillEnterForeground() {}

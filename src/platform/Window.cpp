@@ -1,5 +1,6 @@
 #include "platform/Window.h"
 
+#include <QGuiApplication>
 #include <utility>
 
 #include "platform/Frames.h"
@@ -31,6 +32,14 @@ void Window::setRootViewController(const std::shared_ptr<ViewController>& root) 
         removeFromSuperview(old->view());
     if (root_)
         addFillingSubview(&screen_, root_->view());
+}
+
+void Window::makeKeyAndVisible() {
+    show();
+    // Elsewhere the activation alone does it, and the toolkit complains.
+    if (QGuiApplication::platformName() == "xcb")
+        raise();
+    requestActivate();
 }
 
 // The keyboard also goes to what is scrolled away. A sheet sees to that itself.

@@ -25,6 +25,9 @@ public:
     // Its view fills the window from now on; that of the former one leaves it. May be none.
     void setRootViewController(const std::shared_ptr<ViewController>& root);
 
+    // In front of other windows, with the keyboard.
+    void makeKeyAndVisible();
+
     AlertPresenter& alerts() { return alerts_; }
     ModalPresentation& modalPresentation() { return modalPresentation_; }
 

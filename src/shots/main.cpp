@@ -42,7 +42,8 @@ public:
         font.setPixelSize(textSize);
         QGuiApplication::setFont(font);
         files_.createDirectory("/private/var");  // whose figures Options shows
-        AppDelegate(*this, runner_).applicationDidFinishLaunching();
+        std::make_shared<AppDelegate>(*this, services_)
+            ->applicationDidFinishLaunchingWithOptions({});
         const auto storyboard = loadMainStoryboard(services_);
         reveal_ = std::static_pointer_cast<RevealViewController>(
             storyboard->instantiateInitialViewController());

@@ -15,8 +15,8 @@
 #include "platform/Window.h"
 #include "screens/TaskScreen.h"
 #include "support/Finger.h"
+#include "support/LineRecorder.h"
 #include "support/RecordingMailer.h"
-#include "support/RecordingRunner.h"
 #include "support/TemporaryFolder.h"
 #include "ui/RevealViewController.h"
 
@@ -38,7 +38,7 @@ protected:
         window.resize(375, 667);
         window.show();
         QCoreApplication::processEvents();
-        delegate.applicationDidFinishLaunching();
+        delegate->applicationDidFinishLaunchingWithOptions({});
         reveal = std::static_pointer_cast<RevealViewController>(
             storyboard->instantiateInitialViewController());
         window.setRootViewController(reveal);
@@ -73,7 +73,7 @@ protected:
 
     TemporaryFolder folder;
     SystemFileManager files;
-    RecordingRunner runner;
+    LineRecorder runner;
     ItemCatalogue catalogue;
     SteppedClock clock;
     Window window;
@@ -81,7 +81,7 @@ protected:
     RecordingMailer mailer;
     SystemLog log;
     ScreenServices services = {catalogue, runner, files, queues, window.alerts(), mailer, log};
-    AppDelegate delegate{window, runner};
+    std::shared_ptr<AppDelegate> delegate = std::make_shared<AppDelegate>(window, services);
     std::shared_ptr<const Storyboard> storyboard = loadMainStoryboard(services);
     std::shared_ptr<RevealViewController> reveal;
 };
@@ -174,7 +174,7 @@ TEST_F(ScreensTest, TabReachesEveryButtonAndBringsItIntoView) {
 }
 
 TEST_F(ScreensTest, TheBackgroundEndsTheProgramAndNothingElseDoes) {
-    LifeCycle lifeCycle(window, delegate);
+    LifeCycle lifeCycle(window, *delegate);
     window.setVisible(false);
     window.setVisible(true);
     EXPECT_EQ(runner.lines(), std::vector<std::string>{"/usr/bin/killall RootTarnwick2"});

@@ -4,7 +4,6 @@
 #include <QTest>
 
 #include "cli/InPlaceQueues.h"
-#include "core/Log.h"
 #include "core/SafeguardPaths.h"
 #include "core/SystemFileManager.h"
 #include "mail/CloudViewController.h"
@@ -14,6 +13,7 @@
 #include "platform/Storyboard.h"
 #include "platform/Window.h"
 #include "support/Finger.h"
+#include "support/KeptLog.h"
 #include "support/RecordingMailer.h"
 #include "support/SteppedClock.h"
 #include "support/TemporaryFolder.h"
@@ -23,12 +23,6 @@ extern void qml_register_types_Tarnwick_Storyboard();
 
 namespace tarnwick::testing {
 namespace {
-
-class KeptLog : public Log {
-public:
-    void write(std::string_view line) override { lines += std::string(line) + "\n"; }
-    std::string lines;
-};
 
 // The Cloud screen in the reveal container, as the menu opens it.
 class CloudScreenTest : public ::testing::Test {

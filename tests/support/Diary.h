@@ -88,6 +88,7 @@ public:
     // Runs what is queued, oldest first, until nothing is left.
     void stepGlobal();
     void stepMain();
+    std::size_t waitingOnMain() const { return main_.size(); }
 
     bool mainIsFaster = false;  // a dispatched task runs before its dispatcher goes on
 

@@ -9,7 +9,7 @@
 namespace tarnwick::testing {
 
 // Writes command lines down, on any thread, and runs none of them.
-class RecordingRunner : public CommandRunner {
+class LineRecorder : public CommandRunner {
 public:
     int run(const std::string& line) override {
         const std::lock_guard lock(guard_);

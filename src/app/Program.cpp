@@ -1,0 +1,47 @@
+#include "app/Program.h"
+
+#include <QGuiApplication>
+
+#include "app/MainInterface.h"
+#include "app/QuickActions.h"
+
+namespace tarnwick {
+
+namespace {
+
+constexpr QSize phoneSize(375, 667);  // points
+
+}  // namespace
+
+Program::~Program() {
+    // Screens go before what they work with.
+    window_.setRootViewController(nullptr);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void Program::activate() {
+    if (isLaunched())
+        window_.makeKeyAndVisible();
+    else
+        launch({});
+}
+
+void Program::activateAction(const QString& name) {
+    if (isLaunched())
+        delegate_->applicationPerformActionForShortcutItem(shortcutItem(name), [](bool) {});
+    else
+        launch({.shortcutItem = shortcutItem(name)});
+}
+
+void Program::launch(const LaunchOptions& options) {
+    lifeCycle_ = std::make_unique<LifeCycle>(window_, *delegate_);
+    window_.setTitle(QGuiApplication::applicationDisplayName());
+    window_.resize(phoneSize);
+    delegate_->applicationDidFinishLaunchingWithOptions(options);
+    if (!window_.rootViewController())
+        window_.setRootViewController(
+            loadMainStoryboard(services_)->instantiateInitialViewController());
+    window_.makeKeyAndVisible();
+}
+
+}  // namespace tarnwick

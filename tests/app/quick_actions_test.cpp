@@ -1,0 +1,233 @@
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+
+#include "app/AppDelegate.h"
+#include "app/MainInterface.h"
+#include "app/QuickActions.h"
+#include "app/StartOptions.h"
+#include "core/SafeguardPaths.h"
+#include "platform/AlertView.h"
+#include "platform/NavigationController.h"
+#include "platform/Window.h"
+#include "support/Diary.h"
+#include "support/Events.h"
+#include "support/Finger.h"
+#include "support/KeptLog.h"
+#include "support/RecordingMailer.h"
+#include "support/SteppedClock.h"
+
+namespace tarnwick::testing {
+namespace {
+
+class Delegate : public AppDelegate {
+public:
+    using AppDelegate::AppDelegate;
+    std::optional<std::string> platformType() const override { return model; }
+    std::optional<std::string> model;
+};
+
+// The program in a phone's window, whose queues and runner are the test's.
+class QuickActionsTest : public ::testing::Test {
+protected:
+    QuickActionsTest() {
+        window.resize(375, 667);
+        window.setRootViewController(
+            loadMainStoryboard(services)->instantiateInitialViewController());
+        window.show();
+        QCoreApplication::processEvents();
+    }
+    ~QuickActionsTest() override {
+        window.setRootViewController(nullptr);
+        finishDeletions();
+    }
+
+    void press(const QString& action) {
+        delegate->applicationPerformActionForShortcutItem(shortcutItem(action), handler);
+        diary.entries.clear();  // of what the screen did while it loaded
+    }
+    void runAll() {
+        queues.stepGlobal();
+        queues.stepMain();
+        clock.advance(0.5);
+    }
+    // The title of the screen that stands alone in the window; empty if it is in a container.
+    QString screenAlone() const {
+        const auto* root = dynamic_cast<NavigationController*>(window.rootViewController().get());
+        return root == nullptr ? QString() : root->rootViewController()->title();
+    }
+    // Title, message and buttons of the newest alert.
+    std::string alert() {
+        if (window.alerts().numberShown() == 0)
+            return "none";
+        const Alert& alert = window.alerts().top()->alert();
+        return alert.title + ": " + alert.message + " [" + alert.cancelButtonTitle + "]";
+    }
+    void answerAlert() {
+        emit window.alerts().top()->buttonPressed(0);
+        clock.advance(0.5);
+    }
+    void noteAlertsAtEachCommand() {
+        runner.act = [this](const std::string&) { seenByCommands.push_back(alert()); };
+    }
+
+    TemporaryFolder folder;
+    Diary diary;
+    SteppedClock clock;
+    ItemCatalogue catalogue;
+    RecordingRunner runner{diary};
+    RecordingFileManager files{diary, folder};
+    SteppedQueues queues{diary};
+    RecordingMailer mailer;
+    KeptLog log;
+    Window window;
+    ScreenServices services = {catalogue, runner, files, queues, window.alerts(), mailer, log};
+    std::shared_ptr<Delegate> delegate = std::make_shared<Delegate>(window, services);
+    int handled = 0;
+    std::function<void(bool)> handler = [this](bool) { ++handled; };
+    std::vector<std::string> seenByCommands;
+};
+
+const std::string notice = ": Backup in progress... []";
+const std::string sourcesDone = "Cydia Backup: Backup done ! [Close]";
+const std::string allDone = "All in One Backup: Backup done ! [Close]";
+const std::string selections =
+    "run: dpkg --get-selections > "
+    "/var/mobile/Library/Preferences/Tarnwick/CydiaPackages/installed-packages.txt";
+
+TEST_F(QuickActionsTest, SaveSavesPackagesAndThenSourcesBehindANotice) {
+    folder.put(std::string(paths::cydiaCacheList), "one\n\n");
+    folder.put(std::string(paths::ownAptList), "two\n");
+    queues.mainIsFaster = true;
+    noteAlertsAtEachCommand();
+    press("save");
+    EXPECT_EQ(screenAlone(), "Backup");
+    EXPECT_EQ(alert(), "none");
+    runAll();
+    const std::string saved(paths::savedSourcesList);
+    EXPECT_EQ(diary.changes(), (Entries{selections, "create file: " + saved, "write: " + saved}));
+    EXPECT_EQ(folder.content(saved), "one\n\n\ntwo\n");
+    EXPECT_EQ(seenByCommands, Entries{notice});
+    EXPECT_EQ(alert(), sourcesDone);
+    answerAlert();
+    EXPECT_EQ(alert(), "none");
+}
+
+TEST_F(QuickActionsTest, SaveWithoutACacheKeepsCydiasListAndTellsSuccessOfNothing) {
+    press("save");
+    runAll();
+    EXPECT_EQ(diary.changes(),
+              (Entries{selections, "copy: " + std::string(paths::cydiaAptList) + " to " +
+                                       std::string(paths::savedCydiaList)}));
+    EXPECT_EQ(alert(), sourcesDone);
+}
+
+TEST_F(QuickActionsTest, SaveAllDoesTheWorkOfAllInOneAndNoneOfItsTests) {
+    queues.mainIsFaster = true;
+    noteAlertsAtEachCommand();
+    press("save-all");
+    EXPECT_EQ(screenAlone(), "Backup");
+    runAll();
+    EXPECT_EQ(diary.entries, changesIn(literalEvents().at("save all")));
+    EXPECT_EQ(seenByCommands, Entries(seenByCommands.size(), notice));
+    EXPECT_EQ(alert(), allDone);
+    answerAlert();
+    EXPECT_EQ(alert(), "none");
+}
+
+TEST_F(QuickActionsTest, AlertsGoThroughTheMainQueueInThreeStepsAndInTwo) {
+    press("save");
+    queues.stepGlobal();
+    EXPECT_EQ(queues.waitingOnMain(), 3U);
+    queues.stepMain();
+    press("save-all");
+    queues.stepGlobal();
+    EXPECT_EQ(queues.waitingOnMain(), 2U);
+    queues.stepMain();
+}
+
+TEST_F(QuickActionsTest, TwoSavesOverlapAndEachTakesItsOwnNoticeAway) {
+    press("save");
+    press("save-all");
+    runAll();
+    EXPECT_EQ(window.alerts().numberShown(), 2);
+    EXPECT_EQ(alert(), allDone);
+    answerAlert();
+    EXPECT_EQ(alert(), sourcesDone);
+}
+
+TEST_F(QuickActionsTest, ScreensReplaceAllThatWasThereEvenUnderAFinger) {
+    Finger finger(window, clock);
+    finger.press({20, 300});
+    finger.move({200, 300});
+    press("restore");
+    finger.move({300, 300});
+    finger.lift();
+    clock.advance(1.0);
+    EXPECT_EQ(screenAlone(), "Restore");
+    press("options");
+    EXPECT_EQ(screenAlone(), "Options");
+    EXPECT_EQ(alert(), "none");
+    EXPECT_EQ(log.lines,
+              "A shortcut item was pressed. It was Restore.\n"
+              "A shortcut item was pressed. It was Options.\n");
+}
+
+TEST_F(QuickActionsTest, AnUnknownActionIsOnlyLogged) {
+    press("Save");
+    EXPECT_EQ(log.lines, "A shortcut item was pressed. It was Save.\n");
+    EXPECT_EQ(screenAlone(), "");
+    queues.stepGlobal();
+    EXPECT_EQ(queues.waitingOnMain(), 0U);
+}
+
+TEST_F(QuickActionsTest, NoCompletionHandlerIsEverCalled) {
+    for (const char* action : {"unknown", "save", "save-all", "restore", "options"}) {
+        press(action);
+        runAll();
+    }
+    EXPECT_EQ(handled, 0);
+}
+
+TEST_F(QuickActionsTest, ALaunchReadsItsItemOnTwoModelsOnly) {
+    const std::string fromItem = "We've launched from shortcut item: Restore\n";
+    const std::string properly = "We've launched properly.\n";
+    struct Row {
+        std::optional<std::string> model;
+        std::optional<QString> action;
+        std::string log;
+        QString screen;
+    };
+    const Row rows[] = {
+        {"iPhone 6s", {}, properly, ""},
+        {"iPhone 6s Plus", "restore", fromItem, "Restore"},
+        {"iPhone 6s", "unknown", "We've launched from shortcut item: unknown\n", ""},
+        {"iPhone 6", "restore", "", ""},
+        {"iPhone", "restore", "", ""},
+        {{}, "restore", "", ""},
+    };
+    const auto container = window.rootViewController();
+    for (const Row& row : rows) {
+        log.lines.clear();
+        window.setRootViewController(container);
+        delegate->model = row.model;
+        LaunchOptions options;
+        if (row.action)
+            options.shortcutItem = shortcutItem(*row.action);
+        EXPECT_TRUE(delegate->applicationDidFinishLaunchingWithOptions(options));
+        EXPECT_EQ(log.lines, row.log) << row.model.value_or("no family");
+        EXPECT_EQ(screenAlone(), row.screen) << row.model.value_or("no family");
+    }
+}
+
+TEST(StartOptions, TakeAnActionAndNoneOfTheToolkitsOptions) {
+    EXPECT_EQ(parseStartOptions({"--action", "save-all"})->action, "save-all");
+    EXPECT_TRUE(parseStartOptions({"--service"})->isService);
+    EXPECT_FALSE(parseStartOptions({})->action);
+    for (const char* word :
+         {"-platformpluginpath", "--platform=xcb", "-qmljsdebugger", "--action", ""})
+        EXPECT_FALSE(parseStartOptions({word})) << word;
+}
+
+}  // namespace
+}  // namespace tarnwick::testing
