@@ -1,0 +1,152 @@
+#include "launcher/CleanStart.h"
+
+#include <paths.h>
+#include <pwd.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <csignal>
+#include <string_view>
+
+#include "core/CommandSurroundings.h"
+
+namespace tarnwick {
+
+namespace {
+
+constexpr std::size_t longestValue = 1024;  // bytes; real ones are far shorter
+
+bool isLetterOrDigit(char character) {
+    return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z') ||
+           (character >= '0' && character <= '9');
+}
+
+// Letters, digits and the marks; at least one of them.
+bool consistsOf(std::string_view text, std::string_view marks) {
+    return !text.empty() && std::ranges::all_of(text, [marks](char character) {
+        return isLetterOrDigit(character) || marks.find(character) != std::string_view::npos;
+    });
+}
+
+bool isNumber(std::string_view text) {
+    constexpr std::size_t mostDigits = 5;
+    return !text.empty() && text.size() <= mostDigits &&
+           text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+bool isFolderOrFile(std::string_view text) {
+    return text.starts_with('/') && consistsOf(text, "/._-+@:") &&
+           text.find("/..") == std::string_view::npos;
+}
+
+// ":0", ":0.0", "localhost:10.0".
+bool isDisplay(std::string_view text) {
+    const std::size_t colon = text.find(':');
+    if (colon == std::string_view::npos)
+        return false;
+    const std::string_view host = text.substr(0, colon);
+    const std::string_view number = text.substr(colon + 1);
+    const std::size_t dot = number.find('.');
+    return (host.empty() || host == "unix" || host == "localhost") &&
+           isNumber(number.substr(0, dot)) &&
+           (dot == std::string_view::npos || isNumber(number.substr(dot + 1)));
+}
+
+// A socket's name in the runtime folder.
+bool isWaylandDisplay(std::string_view text) {
+    return consistsOf(text, "._-") && !text.starts_with('.');
+}
+
+// A socket; other kinds of address start programs.
+bool isBusAddress(std::string_view text) {
+    constexpr std::string_view path = "unix:path=";
+    constexpr std::string_view abstractName = "unix:abstract=";
+    const std::size_t comma = std::min(text.find(",guid="), text.size());
+    const std::string_view socket = text.substr(0, comma);
+    const std::string_view guid = text.substr(comma);
+    if (!guid.empty() && !consistsOf(guid.substr(guid.find('=') + 1), ""))
+        return false;
+    return (socket.starts_with(path) && isFolderOrFile(socket.substr(path.size()))) ||
+           (socket.starts_with(abstractName) && isFolderOrFile(socket.substr(abstractName.size())));
+}
+
+bool isLanguage(std::string_view text) {
+    return consistsOf(text, "._@-") && !text.starts_with('.');
+}
+
+// What a desktop hands to what it starts, so that a window may come to the front.
+bool isStartToken(std::string_view text) {
+    return consistsOf(text, "._:/+=@ -");
+}
+
+struct Rule {
+    std::string_view name;
+    bool (*accepts)(std::string_view value);
+};
+
+constexpr Rule rules[] = {
+    {"DISPLAY", isDisplay},
+    {"XAUTHORITY", isFolderOrFile},
+    {"WAYLAND_DISPLAY", isWaylandDisplay},
+    {"XDG_RUNTIME_DIR", isFolderOrFile},
+    {"DBUS_SESSION_BUS_ADDRESS", isBusAddress},
+    {"LANG", isLanguage},
+    {"LC_ALL", isLanguage},
+    {"LC_CTYPE", isLanguage},
+    {"XDG_ACTIVATION_TOKEN", isStartToken},
+    {"DESKTOP_STARTUP_ID", isStartToken},
+};
+
+bool isAcceptable(std::string_view variable) {
+    const std::size_t equals = std::min(variable.find('='), variable.size() - 1);
+    const std::string_view name = variable.substr(0, equals);
+    const std::string_view value = variable.substr(equals + 1);
+    const auto* rule = std::ranges::find(rules, name, &Rule::name);
+    return rule != std::end(rules) && value.size() <= longestValue && rule->accepts(value);
+}
+
+std::string homeOfRoot() {
+    const passwd* root = ::getpwuid(0);
+    return root != nullptr && root->pw_dir != nullptr ? root->pw_dir : "/";
+}
+
+void resetSignals() {
+    for (int signal = 1; signal < NSIG; ++signal)
+        std::signal(signal, SIG_DFL);
+    sigset_t none = {};
+    ::sigemptyset(&none);
+    ::sigprocmask(SIG_SETMASK, &none, nullptr);
+}
+
+// Where the right to raise them is missing, they stay.
+void liftLimits() {
+    const rlimit unlimited = {.rlim_cur = RLIM_INFINITY, .rlim_max = RLIM_INFINITY};
+    for (const auto limit : {RLIMIT_CPU, RLIMIT_FSIZE, RLIMIT_DATA, RLIMIT_AS})
+        ::setrlimit(limit, &unlimited);
+}
+
+}  // namespace
+
+std::vector<std::string> cleanEnvironment(const std::vector<std::string>& environment) {
+    std::vector<std::string> clean = {"PATH=" _PATH_STDPATH, "HOME=" + homeOfRoot()};
+    for (const std::string& variable : environment)
+        if (!variable.empty() && isAcceptable(variable))
+            clean.push_back(variable);
+    return clean;
+}
+
+void cleanProcess() {
+    // What commands ask is never answered by the caller: some of them offer a shell.
+    ::close(STDIN_FILENO);
+    fillStandardDescriptors();
+    ::closefrom(STDERR_FILENO + 1);
+    resetSignals();
+    ::alarm(0);
+    ::umask(S_IWGRP | S_IWOTH);
+    liftLimits();
+    static_cast<void>(::chdir("/"));
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,47 @@
+// Starts the window program with the rights of root for whoever calls it.
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+
+#include "launcher/CleanStart.h"
+
+using namespace tarnwick;
+
+namespace {
+
+// Its name is what ends it.
+const char program[] = TARNWICK_PROGRAM;
+const char programName[] = "RootTarnwick2";
+
+std::vector<std::string> ownEnvironment() {
+    std::vector<std::string> environment;
+    for (char** variable = environ; variable != nullptr && *variable != nullptr; ++variable)
+        environment.emplace_back(*variable);
+    return environment;
+}
+
+// As exec wants it. The texts must outlive it.
+std::vector<char*> pointersTo(std::vector<std::string>& texts) {
+    std::vector<char*> pointers;
+    for (std::string& text : texts)
+        pointers.push_back(text.data());
+    pointers.push_back(nullptr);
+    return pointers;
+}
+
+}  // namespace
+
+int main(int count, char** values) {
+    std::vector<std::string> environment = ownEnvironment();
+    // Whoever has these rights anyway may set what they like.
+    if (::getuid() != ::geteuid()) {
+        environment = cleanEnvironment(environment);
+        cleanProcess();
+    }
+    std::vector<std::string> words = {values + std::min(count, 1), values + count};
+    words.insert(words.begin(), programName);
+    ::execve(program, pointersTo(words).data(), pointersTo(environment).data());
+    std::perror(program);
+    return 127;
+}
