@@ -7,10 +7,10 @@
 #include <iostream>
 #include <optional>
 
+#include "app/BusIdentity.h"
 #include "app/Program.h"
 #include "app/QuickActions.h"
 #include "app/StartOptions.h"
-#include "app/StartersIdentity.h"
 #include "core/CommandSurroundings.h"
 #include "platform/SessionApplication.h"
 
@@ -29,25 +29,13 @@ void becomeRoot() {
 void prepareToolkit() {
     // What is drawn needs no graphics card, and starts faster without one.
     qputenv("QT_QUICK_BACKEND", "software");
-    if (qEnvironmentVariableIsSet("WAYLAND_DISPLAY") &&
-        qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "wayland;xcb");
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM",
+                qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ? "xcb" : "wayland;xcb");
     QGuiApplication::setApplicationName("Tarnwick");
     QGuiApplication::setApplicationDisplayName("Tarnwick");
     QGuiApplication::setDesktopFileName(applicationId);
 }
-
-// The program as its toolkit and its session know it.
-struct Presence {
-    explicit Presence(uid_t starter)
-        : application(wordCount, words), session(applicationId, starter) {}
-
-    int wordCount = 1;
-    char name[14] = "RootTarnwick2";
-    char* words[2] = {name, nullptr};
-    QGuiApplication application;
-    SessionApplication session;
-};
 
 int handOver(const SessionApplication& session, const StartOptions& options) {
     if (options.isService)
@@ -88,14 +76,16 @@ int run(const StartOptions& options, SessionApplication& session) {
 int start(const StartOptions& options, uid_t starter) {
     prepareForCommands();
     prepareToolkit();
-    std::optional<Presence> presence;
-    {
-        const StartersIdentity identity(starter);
-        presence.emplace(starter);
-    }
-    if (presence->session.isRunningElsewhere())
-        return handOver(presence->session, options);
-    return run(options, presence->session);
+    talkToBusesAs(starter);
+    // None of the caller's words are for the toolkit.
+    int count = 1;
+    char name[] = "RootTarnwick2";
+    char* words[] = {name, nullptr};
+    const QGuiApplication application(count, words);
+    SessionApplication session(applicationId, starter);
+    if (session.isRunningElsewhere())
+        return handOver(session, options);
+    return run(options, session);
 }
 
 }  // namespace

@@ -107,9 +107,17 @@ bool isAcceptable(std::string_view variable) {
     return rule != std::end(rules) && value.size() <= longestValue && rule->accepts(value);
 }
 
-std::string homeOfRoot() {
-    const passwd* root = ::getpwuid(0);
-    return root != nullptr && root->pw_dir != nullptr ? root->pw_dir : "/";
+std::string homeOf(uid_t user) {
+    const passwd* entry = ::getpwuid(user);
+    return entry != nullptr && entry->pw_dir != nullptr ? entry->pw_dir : "/";
+}
+
+void addUnlessThere(std::vector<std::string>& environment, const std::string& start,
+                    const std::string& value) {
+    if (std::ranges::none_of(environment, [&start](const std::string& variable) {
+            return variable.starts_with(start);
+        }))
+        environment.push_back(start + value);
 }
 
 void resetSignals() {
@@ -120,20 +128,24 @@ void resetSignals() {
     ::sigprocmask(SIG_SETMASK, &none, nullptr);
 }
 
-// Where the right to raise them is missing, they stay.
-void liftLimits() {
-    const rlimit unlimited = {.rlim_cur = RLIM_INFINITY, .rlim_max = RLIM_INFINITY};
-    for (const auto limit : {RLIMIT_CPU, RLIMIT_FSIZE, RLIMIT_DATA, RLIMIT_AS})
-        ::setrlimit(limit, &unlimited);
+// As far up as the system lets it.
+void lift(decltype(RLIMIT_CPU) resource) {
+    rlimit limit = {.rlim_cur = RLIM_INFINITY, .rlim_max = RLIM_INFINITY};
+    if (::setrlimit(resource, &limit) == 0 || ::getrlimit(resource, &limit) != 0)
+        return;
+    limit.rlim_cur = limit.rlim_max;
+    ::setrlimit(resource, &limit);
 }
 
 }  // namespace
 
 std::vector<std::string> cleanEnvironment(const std::vector<std::string>& environment) {
-    std::vector<std::string> clean = {"PATH=" _PATH_STDPATH, "HOME=" + homeOfRoot()};
+    std::vector<std::string> clean = {"PATH=" _PATH_STDPATH, "HOME=" + homeOf(0)};
     for (const std::string& variable : environment)
         if (!variable.empty() && isAcceptable(variable))
             clean.push_back(variable);
+    addUnlessThere(clean, "XAUTHORITY=", homeOf(::getuid()) + "/.Xauthority");
+    addUnlessThere(clean, "LANG=", "C.UTF-8");
     return clean;
 }
 
@@ -145,7 +157,8 @@ void cleanProcess() {
     resetSignals();
     ::alarm(0);
     ::umask(S_IWGRP | S_IWOTH);
-    liftLimits();
+    for (const auto resource : {RLIMIT_CPU, RLIMIT_FSIZE, RLIMIT_DATA, RLIMIT_AS})
+        lift(resource);
     static_cast<void>(::chdir("/"));
 }
 

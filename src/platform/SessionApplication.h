@@ -18,8 +18,7 @@ class SessionApplication : public QObject {
     Q_OBJECT
 
 public:
-    // Offers itself under the id, unless a program of the session has it. Joins the bus with
-    // whatever identity the thread that first used a bus was given.
+    // Offers itself under the id, unless a program of the session has it.
     SessionApplication(const QString& id, uid_t user);
 
     // Another program has the id: nothing will be heard here.

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "launcher/CleanStart.h"
 
 namespace tarnwick::testing {
@@ -7,12 +9,27 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-// What of it gets through, beside what the start adds itself.
+// What of it gets through, beside what the start itself sets or adds.
 Lines kept(const Lines& environment) {
     Lines clean = cleanEnvironment(environment);
     EXPECT_EQ(clean.at(0), "PATH=/usr/bin:/bin:/usr/sbin:/sbin");
     EXPECT_TRUE(clean.at(1).starts_with("HOME=/"));
-    return {clean.begin() + 2, clean.end()};
+    clean.erase(clean.begin(), clean.begin() + 2);
+    std::erase_if(clean, [&environment](const std::string& variable) {
+        return std::ranges::count(environment, variable) == 0 &&
+               (variable == "LANG=C.UTF-8" || variable.ends_with("/.Xauthority"));
+    });
+    return clean;
+}
+
+TEST(CleanStart, GivesEveryVariableOnce) {
+    for (const Lines& environment : {Lines{}, Lines{"LANG=de_DE.UTF-8", "XAUTHORITY=/run/key"}})
+        for (const char* name : {"PATH=", "HOME=", "LANG=", "XAUTHORITY="})
+            EXPECT_EQ(std::ranges::count_if(
+                          cleanEnvironment(environment),
+                          [name](const auto& variable) { return variable.starts_with(name); }),
+                      1)
+                << name;
 }
 
 TEST(CleanStart, KeepsASessionAsItIs) {

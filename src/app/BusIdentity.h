@@ -1,0 +1,13 @@
+#pragma once
+
+#include <sys/types.h>
+
+namespace tarnwick {
+
+// Has the one thread that talks to buses be the user who started the program: a session's buses let
+// nobody else in, root included. All other threads keep root's rights. Call before the application
+// object is made and any bus is used; nothing changes without root's rights, or if root started
+// the program.
+void talkToBusesAs(uid_t starter);
+
+}  // namespace tarnwick
