@@ -1,15 +1,13 @@
 # shellcheck shell=bash
-# Sourced by ./run and ./test: installs what is missing, builds. Needs nothing but a Debian and bash.
+# Sourced by ./run, ./test and packaging/build-package: installs what is missing, builds. Needs nothing but a Debian and bash.
 # The caller has set `repository` to the top of the checkout.
 
-# The packages that the list names for a purpose: what `run` needs, `test` needs as well.
+# The packages that the list names for a purpose: what `run` needs, all others need as well.
 packages_for() {
     local purpose=$1 package needed_for
     while read -r package needed_for _; do
         case $package in '' | '#'*) continue ;; esac
-        if [ "$needed_for" = run ] || [ "$needed_for" = "$purpose" ]; then
-            echo "$package"
-        fi
+        case ,$needed_for, in *,run,* | *,"$purpose",*) echo "$package" ;; esac
     done <"$repository/packages.txt"
 }
 
@@ -71,11 +69,11 @@ install_missing() {
 configure_and_build() {
     local preset=$1
     shift
-    [ -f "$repository/build/$preset/build.ninja" ] || cmake -S "$repository" --preset "$preset" || return
+    [ "$repository/build/$preset/build.ninja" -nt "$repository/CMakePresets.json" ] || cmake -S "$repository" --preset "$preset" || return
     cmake --build "$repository/build/$preset" --target "${@:-all}"
 }
 
-# Configures a preset once and builds it.
+# Configures a preset where it is new or has changed, and builds it.
 build() {
     logged "$1" configure_and_build "$@"
 }

@@ -1,6 +1,7 @@
 #include <unistd.h>
 
 #include <QGuiApplication>
+#include <QIcon>
 #include <QTimer>
 #include <algorithm>
 #include <chrono>
@@ -22,8 +23,8 @@ enum ExitStatus { Done = 0, NoAnswer = 1, WrongUsage = 2 };
 
 // Without the rights, each command fails in its own way.
 void becomeRoot() {
-    static_cast<void>(::setuid(0));
-    static_cast<void>(::setgid(0));
+    [[maybe_unused]] const int user = ::setuid(0);
+    [[maybe_unused]] const int group = ::setgid(0);
 }
 
 void prepareToolkit() {
@@ -35,6 +36,13 @@ void prepareToolkit() {
     QGuiApplication::setApplicationName("Tarnwick");
     QGuiApplication::setApplicationDisplayName("Tarnwick");
     QGuiApplication::setDesktopFileName(applicationId);
+}
+
+QIcon windowIcon() {
+    QIcon icon;
+    for (const char* file : {":/icon/64.png", ":/icon/256.png"})
+        icon.addFile(file);
+    return icon;
 }
 
 int handOver(const SessionApplication& session, const StartOptions& options) {
@@ -82,6 +90,7 @@ int start(const StartOptions& options, uid_t starter) {
     char name[] = "RootTarnwick2";
     char* words[] = {name, nullptr};
     const QGuiApplication application(count, words);
+    QGuiApplication::setWindowIcon(windowIcon());
     SessionApplication session(applicationId, starter);
     if (session.isRunningElsewhere())
         return handOver(session, options);

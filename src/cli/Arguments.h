@@ -24,11 +24,11 @@ struct Arguments {
     std::optional<std::string> fault;
 };
 
-// An option, for the parser and the help alike: it sets a flag, or takes a value.
+// An option, for the parser, the help and the completions alike: it sets a flag, or takes a value.
 struct Option {
     std::string word;
     std::string shortWord;
-    std::string values;
+    std::string values;  // words between bars, or in capitals what the value is
     std::string purpose;
     bool Arguments::*flag;
     void (*take)(Arguments& arguments, const std::string& value) = nullptr;

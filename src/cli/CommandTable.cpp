@@ -52,16 +52,19 @@ Rows itemRows(const ItemCatalogue& catalogue) {
     return rows;
 }
 
-const Rows statusRows = {
-    {"0", "all done"},
-    {"1", "an archive or a backup is missing or damaged, the answer was no, or the run failed"},
-    {"2", "wrong usage"},
-    {"3", "another run is under way"},
-    {"4", "not root"},
-    {"130", "interrupted"},
-};
-
 }  // namespace
+
+const std::vector<std::pair<std::string, std::string>>& exitStatusTable() {
+    static const Rows statuses = {
+        {"0", "all done"},
+        {"1", "an archive or a backup is missing or damaged, the answer was no, or the run failed"},
+        {"2", "wrong usage"},
+        {"3", "another run is under way"},
+        {"4", "not root"},
+        {"130", "interrupted"},
+    };
+    return statuses;
+}
 
 std::vector<Command> commandTable(const ItemCatalogue& catalogue) {
     const auto targets = targetWords(catalogue);
@@ -112,7 +115,7 @@ std::string helpText(const ItemCatalogue& catalogue) {
            "Saves what a wipe of the device would lose, and puts it back." +
            table("Commands", commandRows(catalogue)) +
            table("ITEM is one of", itemRows(catalogue)) + table("Options", optionRows()) +
-           table("Exit status", statusRows);
+           table("Exit status", exitStatusTable());
 }
 
 }  // namespace tarnwick

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "cli/ExitStatus.h"
@@ -14,7 +15,7 @@ enum class Reach {
     Changes  // needs root, and that no other run is under way
 };
 
-// One verb of the command: the table of them feeds dispatch and help alike.
+// One verb of the command: the table of them feeds dispatch, help, man page and completions alike.
 struct Command {
     std::string name;
     std::string synopsis;  // of what follows the name
@@ -27,6 +28,9 @@ struct Command {
 };
 
 std::vector<Command> commandTable(const ItemCatalogue& catalogue);
+
+// Each exit status and what it means.
+const std::vector<std::pair<std::string, std::string>>& exitStatusTable();
 
 // The whole help, from the table.
 std::string helpText(const ItemCatalogue& catalogue);

@@ -159,7 +159,7 @@ void cleanProcess() {
     ::umask(S_IWGRP | S_IWOTH);
     for (const auto resource : {RLIMIT_CPU, RLIMIT_FSIZE, RLIMIT_DATA, RLIMIT_AS})
         lift(resource);
-    static_cast<void>(::chdir("/"));
+    [[maybe_unused]] const int entered = ::chdir("/");
 }
 
 }  // namespace tarnwick

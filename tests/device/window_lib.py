@@ -71,14 +71,14 @@ def shortened(line):
 
 
 class Window:
-    def __init__(self):
+    def __init__(self, screen="Backup"):
         Atspi.init()
         # Where a command runs on the program's main thread, the bus waits for it.
         Atspi.set_timeout(PATIENCE * 1000, PATIENCE * 1000)
         self._application = wait_for("the window is on the bus", self._find, str)
         # What the bus said before is of no use here.
         self._application.set_cache_mask(Atspi.Cache.NONE)
-        self.wait_for_screen("Backup")
+        self.wait_for_screen(screen)
 
     @staticmethod
     def _find():
@@ -168,6 +168,9 @@ class Window:
 
     def _stands_alone(self, title):
         return self._only("Menu", None) and self._named("heading", title) and not self._named("push button", "Cloud")
+
+    def is_offered(self, name):
+        return self._only(name, None) is not None
 
     def open_menu(self):
         self.press("Menu")

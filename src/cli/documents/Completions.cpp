@@ -1,0 +1,131 @@
+#include <algorithm>
+
+#include "cli/CommandTable.h"
+#include "cli/documents/Fragments.h"
+
+namespace tarnwick {
+
+namespace {
+
+using Words = std::vector<std::string>;
+
+// One word in bash, zsh and fish.
+std::string quoted(const std::string& text) {
+    std::string result = "'";
+    for (const char character : text)
+        result += character == '\'' ? "'\\''" : std::string(1, character);
+    return result + "'";
+}
+
+std::string joined(const Words& words, const std::string& separator = " ") {
+    std::string text;
+    for (const std::string& word : words)
+        text += (text.empty() ? "" : separator) + word;
+    return text;
+}
+
+// "[KEY]=VALUE", as the tables of bash and zsh are written.
+std::string cell(const std::string& key, const std::string& value) {
+    return "[" + key + "]=" + quoted(value);
+}
+
+// What an option's value may be; none if that is the person's to know.
+Words valuesOf(const Option& option) {
+    Words values;
+    const bool isFree = option.values.find_first_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ") == 0;
+    for (std::size_t start = 0; !isFree && start < option.values.size();) {
+        const std::size_t end = std::min(option.values.find('|', start), option.values.size());
+        values.push_back(option.values.substr(start, end - start));
+        start = end + 1;
+    }
+    return values;
+}
+
+bool takesValue(const Option& option) {
+    return option.take != nullptr;
+}
+
+// How many words may follow; none is worth saying twice.
+std::string most(const Command& command) {
+    return std::to_string(std::min(command.mostWords, command.words.size()));
+}
+
+// For zsh's _arguments.
+std::string zshOption(const Option& option) {
+    const std::string purpose = "[" + option.purpose + "]";
+    if (takesValue(option))
+        return quoted("*" + option.word + "=" + purpose + ":" + option.word.substr(2) + ":(" +
+                      joined(valuesOf(option)) + ")");
+    if (option.shortWord.empty())
+        return quoted(option.word + purpose);
+    return quoted("(" + option.shortWord + " " + option.word + ")" + option.shortWord + purpose) +
+           " " + quoted("(" + option.shortWord + " " + option.word + ")" + option.word + purpose);
+}
+
+std::string fishOption(const Option& option) {
+    const std::string letter = option.shortWord.empty() ? "" : " -s " + option.shortWord.substr(1);
+    const std::string values =
+        takesValue(option) ? " -x -a " + quoted(joined(valuesOf(option))) : "";
+    return "complete -c tarnwick -l " + option.word.substr(2) + letter + values + " -d " +
+           quoted(option.purpose);
+}
+
+std::string fishCommand(const Command& command) {
+    return "complete -c tarnwick -n 'test (count (__tarnwick_words)) -eq 0' -a " + command.name +
+           " -d " + quoted(command.purpose);
+}
+
+std::string fishWords(const Command& command) {
+    return "complete -c tarnwick -n '__tarnwick_takes_word " + command.name + " " + most(command) +
+           "' -a " + quoted("(__tarnwick_rest " + joined(command.words) + ")");
+}
+
+void addCommands(Fragments& fragments, const ItemCatalogue& catalogue) {
+    Words names, words, counts, described, fish;
+    for (const Command& command : commandTable(catalogue)) {
+        names.push_back(command.name);
+        described.push_back(quoted(command.name + ":" + command.purpose));
+        fish.push_back(fishCommand(command));
+        if (command.words.empty())
+            continue;
+        words.push_back(cell(command.name, joined(command.words)));
+        counts.push_back(cell(command.name, most(command)));
+        fish.push_back(fishWords(command));
+    }
+    fragments["COMMAND_NAMES"] = joined(names);
+    fragments["WORDS"] = joined(words, "\n        ");
+    fragments["MOST_WORDS"] = joined(counts);
+    fragments["ZSH_COMMANDS"] = joined(described, "\n        ");
+    fragments["FISH_COMMANDS"] = joined(fish, "\n");
+}
+
+void addOptions(Fragments& fragments) {
+    Words names, withValue, values, zsh, fish;
+    for (const Option& option : optionTable()) {
+        if (!option.shortWord.empty())
+            names.push_back(option.shortWord);
+        names.push_back(option.word);
+        zsh.push_back(zshOption(option));
+        fish.push_back(fishOption(option));
+        if (!takesValue(option))
+            continue;
+        withValue.push_back(option.word);
+        values.push_back(cell(option.word, joined(valuesOf(option))));
+    }
+    fragments["OPTION_NAMES"] = joined(names);
+    fragments["OPTIONS_WITH_VALUE"] = joined(withValue);
+    fragments["OPTION_VALUES"] = joined(values);
+    fragments["ZSH_OPTIONS"] = joined(zsh, " \\\n        ");
+    fragments["FISH_OPTIONS"] = joined(fish, "\n");
+}
+
+}  // namespace
+
+Fragments completionFragments(const ItemCatalogue& catalogue) {
+    Fragments fragments;
+    addCommands(fragments, catalogue);
+    addOptions(fragments);
+    return fragments;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,23 @@
+// Pieces of text that are made from the command's tables, and the templates that they go into.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+
+#include "core/ItemCatalogue.h"
+
+namespace tarnwick {
+
+// By the name of the place that they take.
+using Fragments = std::map<std::string, std::string>;
+
+Fragments manPageFragments(const ItemCatalogue& catalogue);
+Fragments completionFragments(const ItemCatalogue& catalogue);
+
+// The template with every @NAME@ replaced by the fragment of that name. If there is none of a name,
+// nothing, and `unknown` tells the name.
+std::optional<std::string> filled(const std::string& text, const Fragments& fragments,
+                                  std::string& unknown);
+
+}  // namespace tarnwick

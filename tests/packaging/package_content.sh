@@ -1,0 +1,49 @@
+#!/usr/bin/env bash
+# The package holds what is to be installed, and nothing else; only the launcher runs as another than its caller.
+# shellcheck source=tests/packaging/package_lib.sh
+source "$(dirname "${BASH_SOURCE[0]}")/package_lib.sh"
+need dpkg-deb lintian
+
+package=$(ls "$repository"/build/package/tarnwick_*.deb)
+dpkg-deb --extract "$package" "$workspace/root"
+
+# Mode, owner and place of all that is no folder.
+files() {
+    dpkg-deb --contents "$package" | awk '!/^d/ { print $1, $2, substr($6, 2) }' | LC_ALL=C sort -k 3
+}
+
+ordinary() {
+    printf -- '-rw-r--r-- root/root /usr/share/%s\n' "$@"
+}
+
+same "every file is in its place" "$(
+    {
+        echo "-rwsr-xr-x root/root /usr/bin/RootTarnwick2"
+        echo "-rwxr-xr-x root/root /usr/bin/tarnwick"
+        echo "-rwxr-xr-x root/root /usr/libexec/tarnwick/RootTarnwick2"
+        ordinary "applications/$id.desktop" "dbus-1/services/$id.service" "metainfo/$id.metainfo.xml" \
+            doc/tarnwick/{changelog.gz,copyright} lintian/overrides/tarnwick man/man1/{RootTarnwick2,tarnwick}.1.gz \
+            bash-completion/completions/{RootTarnwick2,tarnwick} fish/vendor_completions.d/{RootTarnwick2,tarnwick}.fish \
+            zsh/vendor-completions/_{RootTarnwick2,tarnwick} \
+            icons/hicolor/{16x16,22x22,24x24,32x32,48x48,64x64,128x128,256x256,512x512}/apps/"$id.png" \
+            "icons/hicolor/scalable/apps/$id.svg" \
+            icons/hicolor/symbolic/apps/"$id"-{save,save-all,restore,options}-symbolic.svg
+    } | LC_ALL=C sort -k 3
+)" "$(files)"
+same "all folders are root's and nobody else's to write" "drwxr-xr-x root/root" \
+    "$(dpkg-deb --contents "$package" | awk '/^d/ { print $1, $2 }' | sort -u)"
+same "no script runs when it is installed or removed" "control md5sums" "$(dpkg-deb --ctrl-tarfile "$package" |
+    tar --list | sed 's,^\./,,' | grep . | sort | xargs)"
+check "the launcher starts the program where it is installed" \
+    grep -qa /usr/libexec/tarnwick/RootTarnwick2 "$workspace/root/usr/bin/RootTarnwick2"
+same "the bus starts the launcher" "Exec=/usr/bin/RootTarnwick2 --service" \
+    "$(grep ^Exec "$workspace/root/usr/share/dbus-1/services/$id.service")"
+
+# A picture is as wide as the folder says.
+for picture in "$workspace"/root/usr/share/icons/hicolor/*x*/apps/*.png; do
+    folder=${picture%/apps/*}
+    same "${folder##*/} pictures are of that size" "${folder##*/}" \
+        "$(od -A n -t u1 -j 16 -N 8 "$picture" | awk '{ print $3 * 256 + $4 "x" $7 * 256 + $8 }')"
+done
+
+same "lintian has nothing to say" "" "$(lintian --allow-root --fail-on=error,warning --display-info "$package" 2>&1)"

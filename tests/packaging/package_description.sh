@@ -1,0 +1,31 @@
+#!/usr/bin/env bash
+# The entry and the description of the application are what desktops and software centres take.
+# shellcheck source=tests/packaging/package_lib.sh
+source "$(dirname "${BASH_SOURCE[0]}")/package_lib.sh"
+need desktop-file-validate appstreamcli
+
+cd "$repository/packaging"
+same "the entry is valid, without a hint" "" "$(desktop-file-validate "$id.desktop")"
+described=$workspace/$id.metainfo.xml
+sed 's,PICTURES/,https://example.org/pictures/,' "$id.metainfo.xml.in" >"$described"
+check "the description is valid with pictures" appstreamcli validate --no-net --strict --pedantic "$described"
+check "and without" appstreamcli validate --no-net --strict --pedantic "$build/packaging/$id.metainfo.xml"
+check "the pictures are taken" "$build/bin/tarnwick-shots" --shots "$workspace/shots"
+readarray -t pictures < <(grep -o '[^/]*\.png' "$described")
+for picture in "${pictures[@]}"; do
+    check "$picture is one of them" test -s "$workspace/shots/$picture"
+done
+
+# The program reads the names as settings, in which these characters are syntax.
+same "the names of the actions are plain" "" "$(grep '^Name=' "$id.desktop" | grep '[,;\\"]')"
+for action in save save-all restore options; do
+    same "the action $action starts itself, with its own icon" "Icon=$id-$action-symbolic
+Exec=RootTarnwick2 --action $action" \
+        "$(sed -n "/^\[Desktop Action $action\]/,/^\$/p" "$id.desktop" | grep -v '^\[\|^Name\|^$')"
+done
+
+version() {
+    sed -n "s/$1.*/\1/p" "$2" | head -n 1
+}
+same "the newest release is the one that is built" "$(version '^project(Tarnwick VERSION \([0-9.]*\)' ../CMakeLists.txt)" \
+    "$(version '.*<release version="\([0-9.]*\)"' "$id.metainfo.xml.in")"
