@@ -11,13 +11,21 @@ require_model_library() {
         fail "$1 has a model name, which needs $DEVICE_BUILD/lib/device-model.so: build the target device-model"
 }
 
+# run_device DIRECTORY USER [COMMAND...]
+# Only one run at a time may change the device's own programs, as no folder can be the upper one of two overlays. Whoever
+# waits for the run's end holds the lock.
+run_device() {
+    start_device "$@" 9<"$1/device"
+}
+
 # The terminal of the caller never gets onto a device: whoever holds one can type into it. A terminal of the device's own
 # stands between, or none.
-run_device() {
-    local start=(setpriv --pdeathsig KILL --) options
+start_device() {
+    local start=(setpriv --pdeathsig KILL --) options programs=fixed
+    ! flock --nonblock 9 || programs=changeable
     readarray -t options < <(user_namespace)
     start+=(unshare "${options[@]}" --mount --pid --uts --ipc --net --propagation private --fork --kill-child --
-        bash "$here/power_on" "$@")
+        bash "$here/power_on" "$programs" "$@")
     if [[ -t 0 && -t 1 && -t 2 ]]; then
         run_at_terminal "${start[@]}"
     else

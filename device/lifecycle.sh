@@ -2,13 +2,15 @@
 # Making devices, wiping them and taking them away. A device is a folder:
 #   device                        marks the folder as a device
 #   var etc Applications sbin     what the device sees under these names
+#   usr                           what of the programs under /usr is the device's own; the rest is the workstation's
+#   work                          what an overlay needs beside its upper folder, which usr is
 #   log                           what happened on it; no wipe loses it
 #   model                         the name of its model, where it has one
 #   repository                    the packages that its sources offer, as a server would
-#   factory.tar                   var, etc, Applications and sbin as a wipe and a new jailbreak leave them
+#   factory.tar                   var, etc, Applications, sbin and usr as a wipe and a new jailbreak leave them
 #   root                          where its file system is put together
 
-device_folders=(var etc Applications sbin)
+device_folders=(var etc Applications sbin usr)
 safeguard=var/mobile/Library/Preferences/Tarnwick
 
 # What is in the folder when anything fails belongs to users whose files an ordinary user cannot remove.
@@ -33,30 +35,34 @@ lay_out() {
     chmod 600 "$directory/etc/shadow"
 }
 
-# The mode of a checkout's files depends on who made it; a package's must not.
-build_package() {
-    local name=${1##*/} staging=$2/staging
-    cp -R --no-preserve=mode,ownership "$1" "$staging"
-    dpkg-deb --root-owner-group -Znone --build "$staging" "$2/$name.deb" >/dev/null
-    rm -rf "$staging"
+# The root of an ordinary user's device may add nothing to folders of the workstation's root. So each folder in which
+# several packages of the workstation have files, or one that the device is offered, becomes the device's own. The list of
+# fonts goes by the time of their folders. Behind the chroot, links on the device cannot lead to folders of the host.
+make_program_folders() {
+    mkdir -p "$1/usr"
+    ((EUID != 0)) || return 0
+    {
+        find /var/lib/dpkg/info -name '*.list' -exec cat {} +
+        list_offered_folders "$1/repository"
+    } | as_device_root perl -lne '
+        BEGIN { $programs = shift }
+        $offered = s{^\.(/.*)/$}{$1};
+        s{^/(?=bin/|lib)}{/usr/};
+        $shared = ++$times{$_} == 2 && !m{^/usr/share/fonts\b};
+        push @folders, $1 if m{^/usr(/.+)} && ($offered || $shared) && -d && !-l;
+        END { chdir $programs and chroot "." or die "$programs: $!\n"; mkdir for @folders }' "$1/usr"
 }
 
-# Prints a package's entry in the list of a repository.
-describe_package() {
-    local digest
-    digest=$(sha256sum <"$1")
-    dpkg-deb --field "$1"
-    printf 'Filename: ./%s\nSize: %s\nSHA256: %s\n\n' "${1##*/}" "$(stat --format %s "$1")" "${digest%% *}"
-}
-
-build_repository() {
+list_offered_folders() {
     local package
-    for package in "$here"/content/packages/*; do
-        build_package "$package" "$1"
-    done
     for package in "$1"/*.deb; do
-        describe_package "$package"
-    done >"$1/Packages"
+        dpkg-deb --fsys-tarfile "$package" | tar --list | sed -n '/\/$/p'
+    done
+}
+
+# A device may be older than the folder of its own programs.
+complete_device() {
+    [[ -d $1/usr ]] || make_program_folders "$1"
 }
 
 run_layer() {
@@ -67,6 +73,7 @@ fill_device() {
     local directory=$1
     lay_out "$directory"
     build_repository "$directory/repository"
+    make_program_folders "$directory"
     run_layer "$directory" factory
     as_device_root tar -C "$directory" -cf "$directory/factory.tar" --numeric-owner "${device_folders[@]}"
     run_layer "$directory" owner "$2"
@@ -98,6 +105,7 @@ wipe_device() {
     [[ -r $1/factory.tar ]] || fail "$1/factory.tar is missing, without which nothing would be left"
     empty_device "$1"
     as_device_root tar -C "$1" -xpf "$1/factory.tar" --numeric-owner
+    make_program_folders "$1"
     write_log "$1" wipe
 }
 

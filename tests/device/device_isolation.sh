@@ -36,7 +36,6 @@ test_boundaries() {
     try_on_phone mount -t tmpfs none /mnt
     try_on_phone mknod /var/disk b 8 0
     try_on_phone chmod 600 /dev/null
-    try_on_phone touch /usr/touched
     try_on_phone sh -c 'echo >>/opt/tarnwick/bin/greet'
     try_on_phone sh -c ': >/proc/sysrq-trigger'
     try_on_phone sh -c ': >/proc/sys/kernel/panic'
@@ -49,16 +48,53 @@ test_escapes() {
         mkdir "/var/jail"; chroot "/var/jail" or die; chdir ".." for 1 .. 64; chroot "."; exit !-e $ARGV[0]' \
         "$workspace/secret"
     refuse "a folder that the caller has open stays outside" on_phone test -e /proc/self/fd/300/secret 300<"$workspace"
+}
+
+# Whatever the device's root does to the programs: those that build the device are the host's, and no other gets the
+# rights that this takes.
+test_planted_programs() {
+    local library rights
+    library=$(ldd /usr/bin/mount | sed -n 's:.*libmount.* => \(/usr\)\?\(/[^ ]*\).*:/usr\2:p')
+    rights=$(on_phone grep CapEff /proc/self/status)
+    on_phone sh -c 'rm "$1"; echo broken >"$1"' - "$library"
+    refuse "a library planted on the device is used there" on_phone mount --version
+    cat >"$workspace/planted" <<'PROGRAM'
+#!/var/db/dash
+while read -r line; do
+    case $line in CapEff*) rights=$line ;; esac
+done </proc/self/status
+echo "${0##*/}" "$rights" >>/var/planted
+PROGRAM
     # shellcheck disable=SC2016
-    on_phone sh -c 'for name in mount.tmpfs mount.devpts setpriv env perl mkdir; do
-        printf "#!/bin/sh\necho \$0 >>/var/planted\n" >/sbin/$name; chmod +x /sbin/$name; done'
-    refuse "programs planted on the device have no part in its start" on_phone test -e /var/planted
+    DEVICE_SHARE=$workspace on_phone sh -c 'cp /usr/bin/cp /usr/bin/dash /mnt/share/planted /var/db; chmod +x /var/db/planted
+        for name in bash cat chmod chown cp env install ln mkdir mount mount.devpts mount.overlay mount.tmpfs perl \
+            pivot_root realpath rm rmdir setpriv umount unshare; do
+            for folder in /sbin /usr/sbin /usr/bin; do
+                /var/db/cp --remove-destination -p /var/db/planted $folder/$name
+            done
+        done'
+    check "neither it nor programs planted there have a part in its start" on_phone /var/db/dash -c 'test ! -e /var/planted'
+    same "a planted program that is started there has the rights of any other" "mount $rights" \
+        "$(on_phone /var/db/dash -c 'mount; read -r line </var/planted; echo "$line"')"
+    device wipe "$phone"
+}
+
+# What a device left where the host prepares folders for its packages.
+test_planted_links() {
+    mkdir "$workspace/outside"
+    (cd "$phone/usr" && rm -rf share lib)
+    ln -s "$workspace/outside" "$phone/usr/share"
+    ln -s ../../outside "$phone/usr/lib"
+    device offer "$phone" "$phone/repository/org.example.base.deb"
+    device wipe "$phone"
+    same "links planted on the device lead no preparation astray" "" "$(ls "$workspace/outside")"
 }
 
 test_destruction() {
     on_phone sh -c 'apt-get -y install org.example.greyscale; killall -9 sleep MobileSMS; kill -9 -1' >/dev/null 2>&1 || true
     check "a package could be installed" on_phone test -e /var/lib/themes/greyscale/theme.conf
-    on_phone sh -c 'chmod -R 777 /dev /usr /opt; rm -rf --no-preserve-root /' >/dev/null 2>&1 || true
+    # All of /usr would take long: of each file that goes, the overlay keeps a note.
+    on_phone sh -c 'chmod -R 777 /dev /opt; chmod 777 /usr/bin; rm -rf /[!u]* /usr/bin /usr/sbin' >/dev/null 2>&1 || true
     refuse "the device lost its data" on_phone test -e /var/mobile
     device wipe "$phone"
     on_phone reboot 2>/dev/null
@@ -79,5 +115,11 @@ describe_host before
 device new "$phone"
 test_boundaries
 test_escapes
+if has_overlays; then
+    test_planted_programs
+    test_planted_links
+else
+    echo "left out: programs planted on the device, as there are no overlays here"
+fi
 test_destruction
 test_host_is_unharmed

@@ -7,6 +7,7 @@ repository=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd -P)
 workspace=$(mktemp -d)
 phone=$workspace/phone
 host_processes=()
+user_namespace=()
 export DEVICE_BUILD=${DEVICE_BUILD:-$repository/build/release}
 
 device() { "$repository/device/device" "$@"; }
@@ -24,13 +25,19 @@ trap clean_up EXIT
 
 # Where the machine cannot run a device at all, there is nothing to test.
 skip_without_namespaces() {
-    local user_namespace=()
     if ((EUID != 0)); then
         command -v newuidmap >/dev/null || skip "newuidmap is missing, from the package uidmap"
         user_namespace=(--user --map-root-user --map-auto)
     fi
     unshare "${user_namespace[@]}" --mount --pid --fork true 2>/dev/null ||
         skip "this machine gives this user no namespaces, or lends no ids in /etc/subuid"
+}
+
+# Where they are missing, as in a folder that is on an overlay itself, a device has the workstation's programs only.
+has_overlays() {
+    mkdir -p "$workspace"/overlay/{upper,work}
+    unshare "${user_namespace[@]}" --mount env --chdir="$workspace/overlay" \
+        mount -t overlay -o lowerdir=/usr,upperdir=upper,workdir=work,userxattr none /mnt 2>/dev/null
 }
 
 skip() {

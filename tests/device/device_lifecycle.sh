@@ -45,7 +45,7 @@ refused() {
 test_wrong_usage() {
     mkdir "$workspace/folder"
     touch "$workspace/folder/precious"
-    for verb in boot wipe log delete; do
+    for verb in boot wipe offer log delete; do
         refused "$verb"
         refused "$verb" "$workspace/missing"
         refused "$verb" "$workspace/folder"
@@ -62,6 +62,7 @@ test_wrong_usage() {
     refused boot "$phone" --colour
     refused boot "$phone" --user nobody-of-that-name true
     refused wipe "$phone" "$workspace/folder"
+    refused offer "$phone"
     refuse "nothing was made" test -e "$workspace/another"
 }
 
