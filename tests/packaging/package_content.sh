@@ -32,7 +32,7 @@ same "every file is in its place" "$(
 )" "$(files)"
 same "all folders are root's and nobody else's to write" "drwxr-xr-x root/root" \
     "$(dpkg-deb --contents "$package" | awk '/^d/ { print $1, $2 }' | sort -u)"
-same "no script runs when it is installed or removed" "control md5sums" "$(dpkg-deb --ctrl-tarfile "$package" |
+same "no script runs when it is installed" "control md5sums postrm" "$(dpkg-deb --ctrl-tarfile "$package" |
     tar --list | sed 's,^\./,,' | grep . | sort | xargs)"
 check "the launcher starts the program where it is installed" \
     grep -qa /usr/libexec/tarnwick/RootTarnwick2 "$workspace/root/usr/bin/RootTarnwick2"

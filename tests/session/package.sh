@@ -1,0 +1,24 @@
+#!/usr/bin/env bash
+# The package is installed from the phone's own source, used and purged. What was saved stays.
+# shellcheck source=tests/session/session_lib.sh
+source "$(dirname "${BASH_SOURCE[0]}")/session_lib.sh"
+
+safeguard=/var/mobile/Library/Preferences/Tarnwick
+
+saved() { on_phone find "$safeguard" -type f -exec sha256sum {} +; }
+
+# Whatever is called after the program, but the safeguard folder and what the phone's apt knows of packages.
+traces() {
+    on_phone find /usr /etc /var /Applications /sbin -xdev \( -path "$safeguard" -o -path /var/lib/apt -o -path /var/cache/apt \) -prune -o \
+        -iname '*tarnwick*' -print
+}
+
+install_on_phone "$phone"
+check "the package is installed" on_phone dpkg --verify tarnwick
+check "its command saves" on_phone /usr/bin/tarnwick save sources packages notes
+was=$(saved)
+check "it is purged" on_phone apt-get -qq --yes purge tarnwick
+same "what was saved is as it was" "$was" "$(saved)"
+same "nothing else is left" "" "$(traces)"
+check "it is installed again" on_phone apt-get -qq --yes install tarnwick
+same "and finds what was saved" 3 "$(on_phone /usr/bin/tarnwick list | grep -c .)"
