@@ -1,9 +1,11 @@
 # shellcheck shell=bash
-# Shared by the tests of the device: a place to work in, facts that are checked and printed, and waiting.
+# Shared by the tests of the device: a place to work in, and devices.
 
 set -euo pipefail
 
 repository=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd -P)
+# shellcheck source=tests/facts.sh
+source "$repository/tests/facts.sh"
 workspace=$(mktemp -d)
 phone=$workspace/phone
 host_processes=()
@@ -38,61 +40,6 @@ has_overlays() {
     mkdir -p "$workspace"/overlay/{upper,work}
     unshare "${user_namespace[@]}" --mount env --chdir="$workspace/overlay" \
         mount -t overlay -o lowerdir=/usr,upperdir=upper,workdir=work,userxattr none /mnt 2>/dev/null
-}
-
-skip() {
-    printf 'skipped: %s\n' "$1"
-    exit 77
-}
-
-# check FACT COMMAND...: the fact holds when the command succeeds.
-check() {
-    local fact=$1 output
-    shift
-    if output=$("$@" 2>&1); then
-        printf 'ok: %s\n' "$fact"
-    else
-        printf 'not ok: %s\n  %s\n%s\n' "$fact" "$*" "$output"
-        exit 1
-    fi
-}
-
-refuse() {
-    local fact=$1 output
-    shift
-    if output=$("$@" 2>&1); then
-        printf 'not ok: %s\n  %s succeeded\n%s\n' "$fact" "$*" "$output"
-        exit 1
-    fi
-    printf 'ok: %s\n' "$fact"
-}
-
-# same FACT EXPECTED ACTUAL
-same() {
-    if [[ $2 == "$3" ]]; then
-        printf 'ok: %s\n' "$1"
-    else
-        printf 'not ok: %s\n' "$1"
-        diff <(printf '%s\n' "$2") <(printf '%s\n' "$3") || true
-        exit 1
-    fi
-}
-
-status_of() {
-    local status=0
-    "$@" >/dev/null 2>&1 || status=$?
-    printf '%s\n' "$status"
-}
-
-# Ten seconds are far more than anything here takes.
-wait_until() {
-    local attempt
-    for ((attempt = 0; attempt < 500; attempt++)); do
-        ! "$@" || return 0
-        sleep 0.02
-    done
-    printf 'not ok: never came true: %s\n' "$*"
-    exit 1
 }
 
 # A process of the host that a careless killall on the device would hit.

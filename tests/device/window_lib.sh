@@ -23,13 +23,6 @@ surround() {
     surroundings+=("$!")
 }
 
-require_programs() {
-    local program
-    for program in "$@"; do
-        command -v "$program" >/dev/null || skip "$program is missing"
-    done
-}
-
 start_display() {
     require_programs Xvfb
     surround Xvfb -displayfd 3 -screen 0 1024x768x24 -fbdir "$workspace" -nolisten tcp -noreset 3>"$workspace/display"

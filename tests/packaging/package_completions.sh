@@ -2,7 +2,7 @@
 # Each shell completes a line as the tables of the command say.
 # shellcheck source=tests/packaging/package_lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/package_lib.sh"
-need fish zsh
+require_programs fish zsh
 
 completions=$build/packaging/completions
 

@@ -2,10 +2,10 @@
 # The package holds what is to be installed, and nothing else; only the launcher runs as another than its caller.
 # shellcheck source=tests/packaging/package_lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/package_lib.sh"
-need dpkg-deb lintian
+require_programs dpkg-deb lintian
 
 package=$(ls "$repository"/build/package/tarnwick_*.deb)
-dpkg-deb --extract "$package" "$workspace/root"
+dpkg-deb --extract "$package" "$workspace/extracted"
 
 # Mode, owner and place of all that is no folder.
 files() {
@@ -35,12 +35,12 @@ same "all folders are root's and nobody else's to write" "drwxr-xr-x root/root" 
 same "no script runs when it is installed" "control md5sums postrm" "$(dpkg-deb --ctrl-tarfile "$package" |
     tar --list | sed 's,^\./,,' | grep . | sort | xargs)"
 check "the launcher starts the program where it is installed" \
-    grep -qa /usr/libexec/tarnwick/RootTarnwick2 "$workspace/root/usr/bin/RootTarnwick2"
+    grep -qa /usr/libexec/tarnwick/RootTarnwick2 "$workspace/extracted/usr/bin/RootTarnwick2"
 same "the bus starts the launcher" "Exec=/usr/bin/RootTarnwick2 --service" \
-    "$(grep ^Exec "$workspace/root/usr/share/dbus-1/services/$id.service")"
+    "$(grep ^Exec "$workspace/extracted/usr/share/dbus-1/services/$id.service")"
 
 # A picture is as wide as the folder says.
-for picture in "$workspace"/root/usr/share/icons/hicolor/*x*/apps/*.png; do
+for picture in "$workspace"/extracted/usr/share/icons/hicolor/*x*/apps/*.png; do
     folder=${picture%/apps/*}
     same "${folder##*/} pictures are of that size" "${folder##*/}" \
         "$(od -A n -t u1 -j 16 -N 8 "$picture" | awk '{ print $3 * 256 + $4 "x" $7 * 256 + $8 }')"

@@ -2,7 +2,7 @@
 # The entry and the description of the application are what desktops and software centres take.
 # shellcheck source=tests/packaging/package_lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/package_lib.sh"
-need desktop-file-validate appstreamcli
+require_programs desktop-file-validate appstreamcli
 
 cd "$repository/packaging"
 same "the entry is valid, without a hint" "" "$(desktop-file-validate "$id.desktop")"

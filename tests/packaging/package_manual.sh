@@ -2,7 +2,7 @@
 # The pages of the manual are set without a warning, and tell of every command.
 # shellcheck source=tests/packaging/package_lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/package_lib.sh"
-need man mandoc
+require_programs man mandoc
 
 warnings() {
     { MANWIDTH=80 LC_ALL=C.UTF-8 man --warnings --local-file "$1" >/dev/null; } 2>&1

@@ -4,13 +4,6 @@
 # shellcheck source=tests/device/device_lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/../device/device_lib.sh"
 
-require_programs() {
-    local program
-    for program in "$@"; do
-        command -v "$program" >/dev/null || skip "$program is missing"
-    done
-}
-
 # install_on_phone PHONE [OPTION...]: makes the phone, with the package from the phone's own source.
 install_on_phone() {
     local package

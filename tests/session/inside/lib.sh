@@ -2,34 +2,21 @@
 # On the phone, as its root: a session of the user mobile with a bus, a display and whatever starts there.
 
 set -euo pipefail
+# shellcheck source=tests/facts.sh
+source /mnt/share/facts.sh
 
 session=/tmp/session
 # What the programs of the session say, and what they tell the system's log: a phone has none, but they also tell it to a
 # terminal.
 said=$session/said
 
-trap 'kill $(jobs -p) 2>/dev/null || true' EXIT
-
-same() {
-    if [[ $2 == "$3" ]]; then
-        printf 'ok: %s\n' "$1"
-    else
-        printf 'not ok: %s\n' "$1"
-        diff <(printf '%s\n' "$2") <(printf '%s\n' "$3") || true
-        [[ ! -f $said ]] || cat "$said"
-        exit 1
-    fi
+# What was said tells why a fact does not hold.
+end_session() {
+    local status=$?
+    jobs -p | xargs --no-run-if-empty kill 2>/dev/null || true
+    ((status == 0)) || cat "$said" 2>/dev/null || true
 }
-
-# Ten seconds are far more than anything here takes.
-wait_until() {
-    local attempt
-    for ((attempt = 0; attempt < 500; attempt++)); do
-        ! "$@" || return 0
-        sleep 0.02
-    done
-    same "it comes true: $*" yes no
-}
+trap end_session EXIT
 
 # What a login gives its user, and no more.
 as() {
@@ -98,10 +85,7 @@ has_ended() { ! program >/dev/null; }
 
 # drive SCRIPT [ARGUMENT...]: one that uses the program as a person with a screen reader does.
 drive() {
-    as mobile PYTHONDONTWRITEBYTECODE=1 /usr/bin/python3 "/mnt/share/session/inside/$1" "${@:2}" || {
-        cat "$said"
-        exit 1
-    }
+    as mobile PYTHONDONTWRITEBYTECODE=1 /usr/bin/python3 "/mnt/share/session/inside/$1" "${@:2}"
 }
 
 # call USER METHOD [ARGUMENT...]: of the program's interface. Prints the answer, or the kind of the error.
