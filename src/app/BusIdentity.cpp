@@ -1,10 +1,16 @@
 #include "app/BusIdentity.h"
 
+#include <linux/filter.h>
+#include <linux/seccomp.h>
+#include <sys/prctl.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
 #include <QDBusConnection>
 #include <QThread>
+#include <cerrno>
+#include <cstddef>
+#include <iterator>
 #include <thread>
 
 namespace tarnwick {
@@ -24,6 +30,21 @@ bool becomeInThisThread(uid_t user) {
     return ::syscall(setUsersOfThread, user, user, user) == 0;
 }
 
+// The user's bus says where other buses are, and such an address may name a program. This thread
+// and those that it starts can start none.
+bool forbidProgramsInThisThread() {
+    sock_filter rules[] = {
+        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_execve, 1, 0),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_execveat, 0, 1),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | EACCES),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
+    };
+    const sock_fprog filter = {.len = std::size(rules), .filter = rules};
+    return ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
+           ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter) == 0;
+}
+
 }  // namespace
 
 void talkToBusesAs(uid_t starter) {
@@ -34,8 +55,10 @@ void talkToBusesAs(uid_t starter) {
     std::thread([starter] {
         // A new thread is who its maker is, and the thread for buses is made at their first use:
         // here one is left that was never joined.
-        if (becomeInThisThread(starter))
+        if (forbidProgramsInThisThread() && becomeInThisThread(starter))
             QDBusConnection::disconnectFromBus("none");
+        else
+            qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     }).join();
 }
 

@@ -38,10 +38,11 @@ private:
     SystemFileManager files_;
     SystemLog log_;
     Window window_;
-    PlatformQueues queues_;
-    ComposerMailer mailer_{queues_};
+    // It only refers to others, and tasks use it until their queues have gone.
     const ScreenServices services_ = {catalogue_,       runner_, files_, queues_,
                                       window_.alerts(), mailer_, log_};
+    PlatformQueues queues_;
+    ComposerMailer mailer_{queues_};
     const std::shared_ptr<AppDelegate> delegate_ =
         std::make_shared<AppDelegate>(window_, services_);
     std::unique_ptr<LifeCycle> lifeCycle_;

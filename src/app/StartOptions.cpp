@@ -1,5 +1,7 @@
 #include "app/StartOptions.h"
 
+#include "platform/ShortcutItem.h"
+
 namespace tarnwick {
 
 const char* const startHelp =
@@ -8,7 +10,7 @@ const char* const startHelp =
     "Opens Tarnwick's window, or brings it to the front.\n"
     "\n"
     "Options:\n"
-    "  --action NAME  does a quick action\n"
+    "  --action NAME  does a quick action if it runs already, or on an iPhone 6s or 6s Plus\n"
     "  --service      waits for the session bus to tell what to do\n"
     "  --help         this help\n"
     "  --version      the version\n";
@@ -22,7 +24,7 @@ std::optional<StartOptions> parseStartOptions(const std::vector<std::string>& wo
             options.purpose = StartOptions::Purpose::TellVersion;
         else if (*word == "--service")
             options.isService = true;
-        else if (*word == "--action" && word + 1 != words.end())
+        else if (*word == "--action" && word + 1 != words.end() && isActionName(word[1]))
             options.action = *++word;
         else
             return std::nullopt;

@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QIcon>
+#include <QLoggingCategory>
 #include <QTimer>
 #include <algorithm>
 #include <chrono>
@@ -19,7 +20,7 @@ using namespace tarnwick;
 
 namespace {
 
-enum ExitStatus { Done = 0, NoAnswer = 1, WrongUsage = 2 };
+enum ExitStatus { Done = 0, Unavailable = 1, WrongUsage = 2 };
 
 // Without the rights, each command fails in its own way.
 void becomeRoot() {
@@ -30,6 +31,9 @@ void becomeRoot() {
 void prepareToolkit() {
     // What is drawn needs no graphics card, and starts faster without one.
     qputenv("QT_QUICK_BACKEND", "software");
+    // Nor is a card's driver to be loaded with root's rights, which the toolkit would complain of.
+    qputenv("QT_WAYLAND_CLIENT_BUFFER_INTEGRATION", "none");
+    QLoggingCategory::setFilterRules("qt.qpa.wayland.warning=false");
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM",
                 qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ? "xcb" : "wayland;xcb");
@@ -50,10 +54,17 @@ int handOver(const SessionApplication& session, const StartOptions& options) {
         return Done;
     const auto action =
         options.action ? std::optional(QString::fromStdString(*options.action)) : std::nullopt;
-    if (session.handOver(action))
-        return Done;
+    switch (session.handOver(action)) {
+        case SessionApplication::Answer::Done:
+            return Done;
+        case SessionApplication::Answer::Finishing:
+            std::cerr << "RootTarnwick2: it was closed and finishes its work; try again then\n";
+            return Unavailable;
+        case SessionApplication::Answer::None:
+            break;
+    }
     std::cerr << "RootTarnwick2: it is running already, and does not answer\n";
-    return NoAnswer;
+    return Unavailable;
 }
 
 // A service that nobody calls ends.

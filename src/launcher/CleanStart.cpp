@@ -4,6 +4,7 @@
 #include <pwd.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/time.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -99,10 +100,7 @@ constexpr Rule rules[] = {
     {"DESKTOP_STARTUP_ID", isStartToken},
 };
 
-bool isAcceptable(std::string_view variable) {
-    const std::size_t equals = std::min(variable.find('='), variable.size() - 1);
-    const std::string_view name = variable.substr(0, equals);
-    const std::string_view value = variable.substr(equals + 1);
+bool isAcceptable(std::string_view name, std::string_view value) {
     const auto* rule = std::ranges::find(rules, name, &Rule::name);
     return rule != std::end(rules) && value.size() <= longestValue && rule->accepts(value);
 }
@@ -110,14 +108,6 @@ bool isAcceptable(std::string_view variable) {
 std::string homeOf(uid_t user) {
     const passwd* entry = ::getpwuid(user);
     return entry != nullptr && entry->pw_dir != nullptr ? entry->pw_dir : "/";
-}
-
-void addUnlessThere(std::vector<std::string>& environment, const std::string& start,
-                    const std::string& value) {
-    if (std::ranges::none_of(environment, [&start](const std::string& variable) {
-            return variable.starts_with(start);
-        }))
-        environment.push_back(start + value);
 }
 
 void resetSignals() {
@@ -128,24 +118,50 @@ void resetSignals() {
     ::sigprocmask(SIG_SETMASK, &none, nullptr);
 }
 
-// As far up as the system lets it.
-void lift(decltype(RLIMIT_CPU) resource) {
-    rlimit limit = {.rlim_cur = RLIM_INFINITY, .rlim_max = RLIM_INFINITY};
-    if (::setrlimit(resource, &limit) == 0 || ::getrlimit(resource, &limit) != 0)
+void stopTimers() {
+    const itimerval never = {};
+    for (const auto timer : {ITIMER_REAL, ITIMER_VIRTUAL, ITIMER_PROF})
+        ::setitimer(timer, &never, nullptr);
+}
+
+struct Limit {
+    decltype(RLIMIT_CPU) resource;
+    rlim_t value;
+};
+
+// What systems usually give.
+constexpr Limit limits[] = {
+    {RLIMIT_CPU, RLIM_INFINITY},
+    {RLIMIT_FSIZE, RLIM_INFINITY},
+    {RLIMIT_DATA, RLIM_INFINITY},
+    {RLIMIT_AS, RLIM_INFINITY},
+    {RLIMIT_STACK, 8U << 20U},
+    {RLIMIT_NOFILE, 1024},
+    {RLIMIT_CORE, 0},
+};
+
+// Where the value cannot be had, as much as there may be.
+void set(const Limit& limit) {
+    rlimit values = {.rlim_cur = limit.value, .rlim_max = limit.value};
+    if (::setrlimit(limit.resource, &values) == 0 || ::getrlimit(limit.resource, &values) != 0)
         return;
-    limit.rlim_cur = limit.rlim_max;
-    ::setrlimit(resource, &limit);
+    values.rlim_cur = std::min(limit.value, values.rlim_max);
+    ::setrlimit(limit.resource, &values);
 }
 
 }  // namespace
 
-std::vector<std::string> cleanEnvironment(const std::vector<std::string>& environment) {
-    std::vector<std::string> clean = {"PATH=" _PATH_STDPATH, "HOME=" + homeOf(0)};
-    for (const std::string& variable : environment)
-        if (!variable.empty() && isAcceptable(variable))
-            clean.push_back(variable);
-    addUnlessThere(clean, "XAUTHORITY=", homeOf(::getuid()) + "/.Xauthority");
-    addUnlessThere(clean, "LANG=", "C.UTF-8");
+Environment cleanEnvironment(const std::vector<std::string>& environment) {
+    Environment clean = {{"PATH", _PATH_STDPATH}, {"HOME", homeOf(0)}};
+    for (const std::string& variable : environment) {
+        const std::size_t equals = std::min(variable.find('='), variable.size());
+        const std::string name = variable.substr(0, equals);
+        const std::string value = equals < variable.size() ? variable.substr(equals + 1) : "";
+        if (isAcceptable(name, value))
+            clean.emplace(name, value);
+    }
+    clean.emplace("XAUTHORITY", homeOf(::getuid()) + "/.Xauthority");
+    clean.emplace("LANG", "C.UTF-8");
     return clean;
 }
 
@@ -155,10 +171,9 @@ void cleanProcess() {
     fillStandardDescriptors();
     ::closefrom(STDERR_FILENO + 1);
     resetSignals();
-    ::alarm(0);
+    stopTimers();
     ::umask(S_IWGRP | S_IWOTH);
-    for (const auto resource : {RLIMIT_CPU, RLIMIT_FSIZE, RLIMIT_DATA, RLIMIT_AS})
-        lift(resource);
+    std::ranges::for_each(limits, set);
     [[maybe_unused]] const int entered = ::chdir("/");
 }
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "launcher/CallersFiles.h"
 #include "launcher/CleanStart.h"
 
 using namespace tarnwick;
@@ -21,6 +22,13 @@ std::vector<std::string> ownEnvironment() {
     return environment;
 }
 
+std::vector<std::string> linesOf(const Environment& environment) {
+    std::vector<std::string> lines;
+    for (const auto& [name, value] : environment)
+        lines.push_back(std::string(name).append("=").append(value));
+    return lines;
+}
+
 // As exec wants it. The texts must outlive it.
 std::vector<char*> pointersTo(std::vector<std::string>& texts) {
     std::vector<char*> pointers;
@@ -36,8 +44,10 @@ int main(int count, char** values) {
     std::vector<std::string> environment = ownEnvironment();
     // Whoever has these rights anyway may set what they like.
     if (::getuid() != ::geteuid()) {
-        environment = cleanEnvironment(environment);
+        Environment clean = cleanEnvironment(environment);
         cleanProcess();
+        replaceCallersFiles(clean);
+        environment = linesOf(clean);
     }
     std::vector<std::string> words = {values + std::min(count, 1), values + count};
     words.insert(words.begin(), programName);

@@ -1,11 +1,14 @@
 #include "platform/SessionApplication.h"
 
+#include <QCoreApplication>
 #include <QDBusAbstractAdaptor>
 #include <QDBusConnectionInterface>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QRegularExpression>
 #include <utility>
+
+#include "platform/ShortcutItem.h"
 
 namespace tarnwick {
 
@@ -15,8 +18,8 @@ constexpr char interfaceName[] = "org.freedesktop.Application";
 constexpr int patience = 5000;  // milliseconds
 // What a desktop hands on so that a window may come to the front: its name on the bus, and the
 // variable that the toolkit takes it from.
-constexpr std::pair<const char*, const char*> startTokens[] = {
-    {"activation-token", "XDG_ACTIVATION_TOKEN"}, {"desktop-startup-id", "DESKTOP_STARTUP_ID"}};
+constexpr char tokenName[] = "activation-token";
+constexpr char tokenVariable[] = "XDG_ACTIVATION_TOKEN";
 
 // Without an address the library would start a bus of its own.
 QDBusConnection sessionBus() {
@@ -28,28 +31,19 @@ QString objectPath(const QString& id) {
     return '/' + QString(id).replace('.', '/').replace('-', '_');
 }
 
-bool isPlain(const QString& name) {
-    static const QRegularExpression plain("^[A-Za-z0-9-]{1,64}$");
-    return plain.match(name).hasMatch();
-}
-
 bool isToken(const QString& text) {
     static const QRegularExpression token("^[A-Za-z0-9._:/+=@ -]{1,256}$");
     return token.match(text).hasMatch();
 }
 
-QVariantMap tokensOfThisStart() {
-    QVariantMap data;
-    for (const auto& [name, variable] : startTokens)
-        if (const QString token = qEnvironmentVariable(variable); isToken(token))
-            data[name] = token;
-    return data;
+QVariantMap tokenOfThisStart() {
+    const QString token = qEnvironmentVariable(tokenVariable);
+    return isToken(token) ? QVariantMap{{tokenName, token}} : QVariantMap();
 }
 
-void takeTokens(const QVariantMap& data) {
-    for (const auto& [name, variable] : startTokens)
-        if (const QString token = data.value(name).toString(); isToken(token))
-            qputenv(variable, token.toUtf8());
+void takeToken(const QVariantMap& data) {
+    if (const QString token = data.value(tokenName).toString(); isToken(token))
+        qputenv(tokenVariable, token.toUtf8());
 }
 
 }  // namespace
@@ -66,7 +60,7 @@ public:
 public slots:
     void Activate(const QVariantMap& platform_data, const QDBusMessage& call) {
         application_.serve(call, [this, platform_data] {
-            takeTokens(platform_data);
+            takeToken(platform_data);
             emit application_.activated();
         });
     }
@@ -80,12 +74,12 @@ public slots:
     void ActivateAction(const QString& action_name, const QVariantList& parameter,
                         const QVariantMap& platform_data, const QDBusMessage& call) {
         static_cast<void>(parameter);
-        if (!isPlain(action_name)) {
+        if (!isActionName(action_name.toStdString())) {
             application_.refuse(call, QDBusError::InvalidArgs, "No name of an action.");
             return;
         }
         application_.serve(call, [this, action_name, platform_data] {
-            takeTokens(platform_data);
+            takeToken(platform_data);
             emit application_.actionActivated(action_name);
         });
     }
@@ -104,17 +98,25 @@ SessionApplication::SessionApplication(const QString& id, uid_t user)
     const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> reply =
         bus_.interface()->registerService(id_, QDBusConnectionInterface::DontQueueService,
                                           QDBusConnectionInterface::DontAllowReplacement);
+    // The id is held to the end, as what runs is finished first.
+    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this,
+            [this] { bus_.unregisterObject(objectPath(id_)); });
     isRunningElsewhere_ =
         reply.isValid() && reply.value() == QDBusConnectionInterface::ServiceNotRegistered;
 }
 
-bool SessionApplication::handOver(const std::optional<QString>& action) const {
+SessionApplication::Answer SessionApplication::handOver(
+    const std::optional<QString>& action) const {
     auto call = QDBusMessage::createMethodCall(id_, objectPath(id_), interfaceName,
                                                action ? "ActivateAction" : "Activate");
     if (action)
         call << *action << QVariantList();
-    call << tokensOfThisStart();
-    return bus_.call(call, QDBus::Block, patience).type() == QDBusMessage::ReplyMessage;
+    call << tokenOfThisStart();
+    const QDBusMessage answer = bus_.call(call, QDBus::Block, patience);
+    if (answer.type() == QDBusMessage::ReplyMessage)
+        return Answer::Done;
+    return QDBusError(answer).type() == QDBusError::UnknownObject ? Answer::Finishing
+                                                                  : Answer::None;
 }
 
 void SessionApplication::serve(const QDBusMessage& call, std::function<void()> task) {

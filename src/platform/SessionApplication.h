@@ -23,9 +23,13 @@ public:
 
     // Another program has the id: nothing will be heard here.
     bool isRunningElsewhere() const { return isRunningElsewhere_; }
-    // Has that program come to the front, or do one of its actions. False if it does not answer
-    // within a few seconds.
-    bool handOver(const std::optional<QString>& action) const;
+    enum class Answer {
+        Done,
+        Finishing,  // it has been closed, and does what it was doing to the end
+        None        // within a few seconds
+    };
+    // Has that program come to the front, or do one of its actions.
+    Answer handOver(const std::optional<QString>& action) const;
 
 signals:
     // The program is to come to the front.

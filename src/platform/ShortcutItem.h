@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace tarnwick {
 
@@ -10,6 +11,10 @@ struct ShortcutItem {
     std::string type;
     std::string localizedTitle;
 };
+
+// Whether a text can be the short name of a quick action, as desktop entries have it: letters,
+// digits and hyphens, not many.
+bool isActionName(std::string_view text);
 
 // Why the application was launched.
 struct LaunchOptions {

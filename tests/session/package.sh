@@ -13,7 +13,9 @@ traces() {
         -iname '*tarnwick*' -print
 }
 
+require_programs Xvfb dbus-daemon gdbus 9wm xdotool
 install_on_phone "$phone"
+on_session "$phone" used
 check "the package is installed" on_phone dpkg --verify tarnwick
 check "its command saves" on_phone /usr/bin/tarnwick save sources packages notes
 was=$(saved)

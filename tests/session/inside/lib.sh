@@ -75,10 +75,10 @@ minimise() {
     wait_until has_ended
 }
 
-# Without having the bus start it.
+# is_on_bus NAME: without having the bus start it.
 is_on_bus() {
     as mobile gdbus call --session --dest org.freedesktop.DBus --object-path /org/freedesktop/DBus \
-        --method org.freedesktop.DBus.NameHasOwner com.fenlow.tarnwick2 | grep -q true
+        --method org.freedesktop.DBus.NameHasOwner "$1" | grep -q true
 }
 
 has_ended() { ! program >/dev/null; }
