@@ -224,6 +224,8 @@ TEST(StartOptions, TakeAnActionAndNoneOfTheToolkitsOptions) {
     EXPECT_EQ(parseStartOptions({"--action", "save-all"})->action, "save-all");
     EXPECT_TRUE(parseStartOptions({"--service"})->isService);
     EXPECT_FALSE(parseStartOptions({})->action);
+    for (const std::string& name : {std::string(), std::string("save all"), std::string(65, 'a')})
+        EXPECT_FALSE(parseStartOptions({"--action", name})) << name;
     for (const char* word :
          {"-platformpluginpath", "--platform=xcb", "-qmljsdebugger", "--action", ""})
         EXPECT_FALSE(parseStartOptions({word})) << word;
