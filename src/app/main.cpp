@@ -28,6 +28,13 @@ void becomeRoot() {
     [[maybe_unused]] const int group = ::setgid(0);
 }
 
+// Without any, the toolkit would end the program with a crash.
+bool hasDisplay() {
+    return !qEnvironmentVariableIsEmpty("DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+}
+
 void prepareToolkit() {
     // What is drawn needs no graphics card, and starts faster without one.
     qputenv("QT_QUICK_BACKEND", "software");
@@ -93,6 +100,10 @@ int run(const StartOptions& options, SessionApplication& session) {
 }
 
 int start(const StartOptions& options, uid_t starter) {
+    if (!hasDisplay()) {
+        std::cerr << "RootTarnwick2: there is no display; over SSH use tarnwick\n";
+        return Unavailable;
+    }
     prepareForCommands();
     prepareToolkit();
     talkToBusesAs(starter);
