@@ -9,30 +9,15 @@
 #include <filesystem>
 #include <utility>
 
+#include "core/Descriptor.h"
 #include "core/TextLines.h"
+#include "core/WriteAll.h"
 
 namespace tarnwick {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-// A file descriptor that is closed at the end of its scope.
-class Descriptor {
-public:
-    explicit Descriptor(int number) : number_(number) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() {
-        if (isOpen())
-            ::close(number_);
-    }
-    bool isOpen() const { return number_ >= 0; }
-    int number() const { return number_; }
-
-private:
-    int number_;
-};
 
 std::optional<struct stat> statusOf(const std::string& path) {
     struct stat status = {};
@@ -53,17 +38,6 @@ std::optional<std::string> readAll(int descriptor) {
         else if (errno != EINTR)
             return std::nullopt;
     }
-}
-
-bool writeAll(int descriptor, std::string_view text) {
-    while (!text.empty()) {
-        const ssize_t count = ::write(descriptor, text.data(), text.size());
-        if (count < 0 && errno != EINTR)
-            return false;
-        if (count > 0)
-            text.remove_prefix(static_cast<std::size_t>(count));
-    }
-    return ::fsync(descriptor) == 0;
 }
 
 // The mode that a replaced file hands on; a new one may be read by all.
@@ -167,7 +141,7 @@ bool SystemFileManager::writeText(std::string_view path, std::string_view text) 
     const Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
     if (!file.isOpen())
         return false;
-    const bool done = writeAll(file.number(), text) &&
+    const bool done = writeAll(file.number(), text) && ::fsync(file.number()) == 0 &&
                       ::fchmod(file.number(), modeFor(target)) == 0 &&
                       ::rename(temporary.c_str(), target.c_str()) == 0;
     if (!done)

@@ -7,6 +7,9 @@
 #include <cstdlib>
 #include <optional>
 
+#include "core/Descriptor.h"
+#include "core/WriteAll.h"
+
 namespace tarnwick {
 
 namespace {
@@ -27,22 +30,6 @@ public:
     }
     AsCaller(const AsCaller&) = delete;
     AsCaller& operator=(const AsCaller&) = delete;
-};
-
-class Descriptor {
-public:
-    explicit Descriptor(int number) : number_(number) {}
-    ~Descriptor() {
-        if (number_ >= 0)
-            ::close(number_);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    int number() const { return number_; }
-
-private:
-    int number_;
 };
 
 bool belongsTo(uid_t user, const std::string& folder) {
@@ -71,13 +58,16 @@ std::optional<std::string> contentForCaller(const std::string& path) {
     return length == status.st_size ? std::optional(content) : std::nullopt;
 }
 
-// Whoever reads the file meanwhile gets the old one or the new one.
+// Whoever reads the file meanwhile gets the old one or the new one. Leaves the old one if it fails.
 bool write(const std::string& path, const std::string& content) {
     std::string unfinished = path + ".XXXXXX";
     const Descriptor file(::mkostemp(unfinished.data(), O_CLOEXEC));
-    return ::write(file.number(), content.data(), content.size()) ==
-               static_cast<ssize_t>(content.size()) &&
-           ::rename(unfinished.c_str(), path.c_str()) == 0;
+    if (!file.isOpen())
+        return false;
+    if (writeAll(file.number(), content) && ::rename(unfinished.c_str(), path.c_str()) == 0)
+        return true;
+    ::unlink(unfinished.c_str());
+    return false;
 }
 
 std::string take(Environment& environment, const std::string& name) {

@@ -9,7 +9,7 @@
 #include <cerrno>
 #include <cstring>
 
-#include "mail/WriteAll.h"
+#include "core/WriteAll.h"
 
 namespace tarnwick {
 

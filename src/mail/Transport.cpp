@@ -12,7 +12,8 @@
 #include <csignal>
 #include <cstring>
 
-#include "mail/WriteAll.h"
+#include "core/Descriptor.h"
+#include "core/WriteAll.h"
 
 namespace tarnwick {
 
@@ -31,28 +32,22 @@ constexpr const char* searchPath =
 // leaves unread or has to say, nobody waits for the other and nothing is lost.
 class MemoryFile {
 public:
-    explicit MemoryFile(const char* name) : number_(::memfd_create(name, MFD_CLOEXEC)) {}
-    MemoryFile(const MemoryFile&) = delete;
-    MemoryFile& operator=(const MemoryFile&) = delete;
-    ~MemoryFile() {
-        if (number_ >= 0)
-            ::close(number_);
-    }
+    explicit MemoryFile(const char* name) : file_(::memfd_create(name, MFD_CLOEXEC)) {}
 
-    int number() const { return number_; }
+    int number() const { return file_.number(); }
 
     bool fill(const std::string& text) const {
-        return writeAll(number_, text) && ::lseek(number_, 0, SEEK_SET) == 0;
+        return writeAll(number(), text) && ::lseek(number(), 0, SEEK_SET) == 0;
     }
 
     std::string start() const {
         std::array<char, 2000> text{};
-        const ssize_t count = ::pread(number_, text.data(), text.size(), 0);
+        const ssize_t count = ::pread(number(), text.data(), text.size(), 0);
         return {text.data(), static_cast<std::size_t>(count > 0 ? count : 0)};
     }
 
 private:
-    int number_;
+    Descriptor file_;
 };
 
 // What the mailer said first; empty if it said nothing.

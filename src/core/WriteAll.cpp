@@ -1,4 +1,4 @@
-#include "mail/WriteAll.h"
+#include "core/WriteAll.h"
 
 #include <unistd.h>
 
