@@ -12,8 +12,8 @@
 
 #include "core/SystemCommandRunner.h"
 #include "gallery/Gallery.h"
-#include "platform/PlatformQueues.h"
-#include "ui/ProgressHUD.h"
+#include "platform/threads/PlatformQueues.h"
+#include "ui/hud/ProgressHUD.h"
 
 using namespace tarnwick;
 

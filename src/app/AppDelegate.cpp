@@ -3,10 +3,10 @@
 #include <sys/utsname.h>
 
 #include "app/DeviceModel.h"
-#include "platform/IdleTimer.h"
-#include "platform/Look.h"
-#include "platform/NavigationBar.h"
-#include "platform/Window.h"
+#include "platform/controllers/Look.h"
+#include "platform/controllers/NavigationBar.h"
+#include "platform/desktop/IdleTimer.h"
+#include "platform/windows/Window.h"
 
 namespace tarnwick {
 

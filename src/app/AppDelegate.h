@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/LifeCycle.h"
+#include "platform/desktop/LifeCycle.h"
 #include "screens/ScreenServices.h"
 
 namespace tarnwick {

@@ -6,7 +6,7 @@
 #include "mail/CloudViewController.h"
 #include "options/OptionsViewController.h"
 #include "restore/RestoreViewController.h"
-#include "ui/RevealSegues.h"
+#include "ui/reveal/RevealSegues.h"
 
 // What a library holds is linked in only if something asks for it.
 extern void qml_register_types_Tarnwick_Storyboard();

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "platform/Storyboard.h"
+#include "platform/controllers/Storyboard.h"
 #include "screens/ScreenServices.h"
 
 namespace tarnwick {

@@ -10,8 +10,8 @@
 #include "core/SystemFileManager.h"
 #include "core/SystemLog.h"
 #include "mail/ComposerMailer.h"
-#include "platform/PlatformQueues.h"
-#include "platform/Window.h"
+#include "platform/threads/PlatformQueues.h"
+#include "platform/windows/Window.h"
 
 namespace tarnwick {
 

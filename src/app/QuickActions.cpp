@@ -6,7 +6,7 @@
 #include "app/AppDelegate.h"
 #include "app/MainInterface.h"
 #include "backup/SavingWork.h"
-#include "platform/Window.h"
+#include "platform/windows/Window.h"
 
 namespace tarnwick {
 

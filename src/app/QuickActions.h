@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "platform/ShortcutItem.h"
+#include "platform/desktop/ShortcutItem.h"
 
 namespace tarnwick {
 

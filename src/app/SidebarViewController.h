@@ -3,7 +3,7 @@
 #include <QStringList>
 #include <optional>
 
-#include "platform/TableViewController.h"
+#include "platform/controllers/TableViewController.h"
 
 namespace tarnwick {
 

@@ -1,6 +1,6 @@
 #include "app/StartOptions.h"
 
-#include "platform/ShortcutItem.h"
+#include "platform/desktop/ShortcutItem.h"
 
 namespace tarnwick {
 

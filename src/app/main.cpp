@@ -14,7 +14,7 @@
 #include "app/QuickActions.h"
 #include "app/StartOptions.h"
 #include "core/CommandSurroundings.h"
-#include "platform/SessionApplication.h"
+#include "platform/desktop/SessionApplication.h"
 
 using namespace tarnwick;
 

@@ -1,14 +1,14 @@
 #include "gallery/Gallery.h"
 
 #include "gallery/Scenes.h"
-#include "platform/Look.h"
-#include "platform/NavigationBar.h"
-#include "platform/Outlet.h"
-#include "platform/Pause.h"
-#include "platform/Storyboard.h"
-#include "platform/TapGestureRecognizer.h"
-#include "ui/ProgressHUD.h"
-#include "ui/RevealSegues.h"
+#include "platform/controllers/Look.h"
+#include "platform/controllers/NavigationBar.h"
+#include "platform/controllers/Outlet.h"
+#include "platform/controllers/Storyboard.h"
+#include "platform/gestures/TapGestureRecognizer.h"
+#include "platform/motion/Pause.h"
+#include "ui/hud/ProgressHUD.h"
+#include "ui/reveal/RevealSegues.h"
 
 // What a library holds is linked in only if something asks for it.
 extern void qml_register_types_Tarnwick_Gallery();

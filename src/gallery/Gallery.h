@@ -4,8 +4,8 @@
 #include <memory>
 
 #include "core/Alert.h"
-#include "platform/Window.h"
-#include "ui/RevealViewController.h"
+#include "platform/windows/Window.h"
+#include "ui/reveal/RevealViewController.h"
 
 namespace tarnwick {
 

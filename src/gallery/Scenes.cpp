@@ -1,8 +1,8 @@
 #include "gallery/Scenes.h"
 
 #include "gallery/Gallery.h"
-#include "ui/BarProgressView.h"
-#include "ui/ProgressHUD.h"
+#include "ui/hud/BarProgressView.h"
+#include "ui/hud/ProgressHUD.h"
 
 namespace tarnwick {
 

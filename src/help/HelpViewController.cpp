@@ -3,9 +3,9 @@
 #include <QMap>
 
 #include "help/HelpTexts.h"
-#include "platform/Frames.h"
+#include "platform/motion/Frames.h"
 #include "screens/ScreenStyle.h"
-#include "ui/RevealSegues.h"
+#include "ui/reveal/RevealSegues.h"
 
 namespace tarnwick {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/NavigationBar.h"
-#include "platform/Outlet.h"
-#include "platform/ViewController.h"
+#include "platform/controllers/NavigationBar.h"
+#include "platform/controllers/Outlet.h"
+#include "platform/controllers/ViewController.h"
 
 namespace tarnwick {
 

@@ -1,9 +1,9 @@
 #include "mail/CloudViewController.h"
 
 #include "mail/MailMessage.h"
-#include "platform/Frames.h"
+#include "platform/motion/Frames.h"
 #include "screens/ScreenStyle.h"
-#include "ui/RevealSegues.h"
+#include "ui/reveal/RevealSegues.h"
 
 namespace tarnwick {
 

@@ -2,10 +2,10 @@
 
 #include "core/FileManager.h"
 #include "core/Log.h"
-#include "platform/MailComposeViewController.h"
-#include "platform/NavigationBar.h"
-#include "platform/Outlet.h"
-#include "platform/ViewController.h"
+#include "platform/controllers/NavigationBar.h"
+#include "platform/controllers/Outlet.h"
+#include "platform/controllers/ViewController.h"
+#include "platform/mail/MailComposeViewController.h"
 
 namespace tarnwick {
 

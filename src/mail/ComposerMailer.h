@@ -5,7 +5,7 @@
 #include "core/TaskQueues.h"
 #include "mail/Drafts.h"
 #include "mail/Transport.h"
-#include "platform/Mailer.h"
+#include "platform/mail/Mailer.h"
 
 namespace tarnwick {
 

@@ -5,8 +5,8 @@
 #include "core/ItemCatalogue.h"
 #include "core/Log.h"
 #include "core/TaskQueues.h"
-#include "platform/AlertPresenter.h"
-#include "platform/Mailer.h"
+#include "platform/mail/Mailer.h"
+#include "platform/windows/AlertPresenter.h"
 
 namespace tarnwick {
 

@@ -2,8 +2,8 @@
 
 #include <limits>
 
-#include "platform/Layer.h"
-#include "platform/Look.h"
+#include "platform/controllers/Look.h"
+#include "platform/views/Layer.h"
 
 namespace tarnwick {
 

@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "platform/Frames.h"
-#include "ui/RevealSegues.h"
+#include "platform/motion/Frames.h"
+#include "ui/reveal/RevealSegues.h"
 
 namespace tarnwick {
 

@@ -6,11 +6,11 @@
 #include <vector>
 
 #include "core/Feedback.h"
-#include "platform/NavigationBar.h"
-#include "platform/Outlet.h"
-#include "platform/ViewController.h"
+#include "platform/controllers/NavigationBar.h"
+#include "platform/controllers/Outlet.h"
+#include "platform/controllers/ViewController.h"
 #include "screens/ScreenServices.h"
-#include "ui/ProgressHUD.h"
+#include "ui/hud/ProgressHUD.h"
 
 namespace tarnwick {
 

@@ -6,7 +6,7 @@
 #include <memory>
 #include <vector>
 
-#include "platform/Window.h"
+#include "platform/windows/Window.h"
 
 namespace tarnwick {
 

@@ -11,11 +11,11 @@
 #include "core/SystemFileManager.h"
 #include "core/SystemLog.h"
 #include "mail/ComposerMailer.h"
-#include "platform/NavigationController.h"
-#include "platform/PlatformQueues.h"
+#include "platform/controllers/NavigationController.h"
+#include "platform/threads/PlatformQueues.h"
 #include "shots/Shots.h"
-#include "ui/ProgressHUD.h"
-#include "ui/RevealViewController.h"
+#include "ui/hud/ProgressHUD.h"
+#include "ui/reveal/RevealViewController.h"
 
 using namespace tarnwick;
 

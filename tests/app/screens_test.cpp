@@ -9,16 +9,16 @@
 #include "app/SidebarViewController.h"
 #include "core/SystemFileManager.h"
 #include "core/SystemLog.h"
-#include "platform/AlertView.h"
-#include "platform/NavigationController.h"
-#include "platform/PlatformQueues.h"
-#include "platform/Window.h"
+#include "platform/controllers/NavigationController.h"
+#include "platform/threads/PlatformQueues.h"
+#include "platform/windows/AlertView.h"
+#include "platform/windows/Window.h"
 #include "screens/TaskScreen.h"
 #include "support/Finger.h"
 #include "support/LineRecorder.h"
 #include "support/RecordingMailer.h"
 #include "support/TemporaryFolder.h"
-#include "ui/RevealViewController.h"
+#include "ui/reveal/RevealViewController.h"
 
 namespace tarnwick::testing {
 namespace {

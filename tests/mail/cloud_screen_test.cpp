@@ -8,16 +8,16 @@
 #include "core/SystemFileManager.h"
 #include "mail/CloudViewController.h"
 #include "mail/ComposerMailer.h"
-#include "platform/ModalPresentation.h"
-#include "platform/NavigationController.h"
-#include "platform/Storyboard.h"
-#include "platform/Window.h"
+#include "platform/controllers/NavigationController.h"
+#include "platform/controllers/Storyboard.h"
+#include "platform/windows/ModalPresentation.h"
+#include "platform/windows/Window.h"
 #include "support/Finger.h"
 #include "support/KeptLog.h"
 #include "support/RecordingMailer.h"
 #include "support/SteppedClock.h"
 #include "support/TemporaryFolder.h"
-#include "ui/RevealViewController.h"
+#include "ui/reveal/RevealViewController.h"
 
 extern void qml_register_types_Tarnwick_Storyboard();
 

@@ -12,10 +12,10 @@
 #include <set>
 #include <thread>
 
-#include "platform/AlertPresenter.h"
-#include "platform/AlertView.h"
-#include "platform/QmlEngine.h"
-#include "platform/Stage.h"
+#include "platform/views/QmlEngine.h"
+#include "platform/windows/AlertPresenter.h"
+#include "platform/windows/AlertView.h"
+#include "platform/windows/Stage.h"
 #include "support/SteppedClock.h"
 
 namespace tarnwick::testing {

@@ -6,9 +6,9 @@
 #include <cmath>
 #include <memory>
 
-#include "platform/PanGestureRecognizer.h"
-#include "platform/TapGestureRecognizer.h"
-#include "platform/Window.h"
+#include "platform/gestures/PanGestureRecognizer.h"
+#include "platform/gestures/TapGestureRecognizer.h"
+#include "platform/windows/Window.h"
 #include "support/Finger.h"
 
 namespace tarnwick::testing {

@@ -6,11 +6,11 @@
 #include <QTest>
 #include <functional>
 
-#include "platform/AlertView.h"
-#include "platform/MailComposeViewController.h"
-#include "platform/ModalPresentation.h"
-#include "platform/QmlEngine.h"
-#include "platform/Window.h"
+#include "platform/mail/MailComposeViewController.h"
+#include "platform/views/QmlEngine.h"
+#include "platform/windows/AlertView.h"
+#include "platform/windows/ModalPresentation.h"
+#include "platform/windows/Window.h"
 #include "support/RecordingMailer.h"
 #include "support/SteppedClock.h"
 

@@ -1,4 +1,4 @@
-#include "platform/Storyboard.h"
+#include "platform/controllers/Storyboard.h"
 
 #include <gtest/gtest.h>
 
@@ -7,15 +7,15 @@
 #include <QQuickWindow>
 #include <QTemporaryDir>
 
-#include "platform/Layer.h"
-#include "platform/NavigationBar.h"
-#include "platform/NavigationController.h"
-#include "platform/Outlet.h"
-#include "platform/StateCoder.h"
-#include "platform/StatusBar.h"
+#include "platform/controllers/NavigationBar.h"
+#include "platform/controllers/NavigationController.h"
+#include "platform/controllers/Outlet.h"
+#include "platform/controllers/StateCoder.h"
+#include "platform/controllers/StatusBar.h"
+#include "platform/views/Layer.h"
 #include "support/SteppedClock.h"
-#include "ui/RevealSegues.h"
-#include "ui/RevealViewController.h"
+#include "ui/reveal/RevealSegues.h"
+#include "ui/reveal/RevealViewController.h"
 
 namespace tarnwick::testing {
 namespace {

@@ -3,7 +3,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/Mailer.h"
+#include "platform/mail/Mailer.h"
 
 namespace tarnwick::testing {
 

@@ -7,14 +7,14 @@
 #include <string>
 #include <vector>
 
-#include "platform/Frames.h"
-#include "platform/TapGestureRecognizer.h"
-#include "platform/Window.h"
+#include "platform/gestures/TapGestureRecognizer.h"
+#include "platform/motion/Frames.h"
+#include "platform/windows/Window.h"
 #include "support/Finger.h"
 #include "support/SteppedClock.h"
-#include "ui/RevealView.h"
-#include "ui/RevealViewController.h"
-#include "ui/RevealViewControllerPanGestureRecognizer.h"
+#include "ui/reveal/RevealView.h"
+#include "ui/reveal/RevealViewController.h"
+#include "ui/reveal/RevealViewControllerPanGestureRecognizer.h"
 
 namespace tarnwick::testing {
 

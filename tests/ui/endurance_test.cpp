@@ -4,9 +4,9 @@
 #include <QQmlEngine>
 
 #include "core/Alert.h"
-#include "platform/QmlEngine.h"
+#include "platform/views/QmlEngine.h"
 #include "support/RevealScreen.h"
-#include "ui/ProgressHUD.h"
+#include "ui/hud/ProgressHUD.h"
 
 namespace tarnwick::testing {
 namespace {

@@ -6,11 +6,11 @@
 #include <QSemaphore>
 #include <thread>
 
-#include "platform/PlatformQueues.h"
+#include "platform/threads/PlatformQueues.h"
 #include "support/SteppedClock.h"
-#include "ui/BarProgressView.h"
-#include "ui/ProgressHUD.h"
-#include "ui/RoundProgressView.h"
+#include "ui/hud/BarProgressView.h"
+#include "ui/hud/ProgressHUD.h"
+#include "ui/hud/RoundProgressView.h"
 
 namespace tarnwick::testing {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "ui/RevealGeometry.h"
+#include "ui/reveal/RevealGeometry.h"
 
 namespace tarnwick {
 namespace {

@@ -3,7 +3,7 @@
 #include <QAccessible>
 #include <QQmlComponent>
 
-#include "platform/QmlEngine.h"
+#include "platform/views/QmlEngine.h"
 #include "support/RevealScreen.h"
 
 namespace tarnwick::testing {

@@ -1,9 +1,0 @@
-#include "platform/Outlet.h"
-
-namespace tarnwick {
-
-OutletBase::OutletBase(ViewController* owner, const char* name) : name_(name) {
-    owner->outlets_.push_back(this);
-}
-
-}  // namespace tarnwick

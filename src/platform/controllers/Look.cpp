@@ -1,0 +1,42 @@
+#include "platform/controllers/Look.h"
+
+#include <QFontInfo>
+#include <QGuiApplication>
+#include <algorithm>
+#include <cmath>
+
+namespace tarnwick {
+
+namespace {
+
+constexpr double usualFontSize = 15.0;  // pixels: what desktops come with is 12 to 15
+constexpr double largestScale = 2.0;    // words still fit on the narrowest screen
+
+int scaled(int pixels) {
+    return static_cast<int>(std::lround(pixels * Look::textScale()));
+}
+
+}  // namespace
+
+QColor Look::blue() {
+    return QColor::fromRgbF(0, 122 / 255.0F, 1);
+}
+
+double Look::textScale() {
+    const double chosen = QFontInfo(QGuiApplication::font()).pixelSize();
+    return std::clamp(chosen / usualFontSize, 1.0, largestScale);
+}
+
+int Look::headline() {
+    return scaled(17);
+}
+
+int Look::callout() {
+    return scaled(15);
+}
+
+int Look::body() {
+    return scaled(13);
+}
+
+}  // namespace tarnwick

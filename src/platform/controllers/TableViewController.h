@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QQuickItem>
+#include <QString>
+
+#include "platform/controllers/Outlet.h"
+#include "platform/controllers/ViewController.h"
+
+namespace tarnwick {
+
+// How a cell looks while it is pressed.
+enum class CellSelectionStyle { None = 0, Blue = 1, Gray = 2 };
+
+struct IndexPath {
+    int section;
+    int row;
+};
+
+// A list of rows. The scene has a column for the rows, and prototype cells, each with its
+// `reuseIdentifier`; the controller says which cell stands in which row. Main thread.
+class TableViewController : public ViewController {
+    Q_OBJECT
+
+public:
+    Outlet<QQuickItem> rows{this, "rows"};
+    Outlet<QQuickItem> prototypes{this, "prototypes"};
+
+    virtual int numberOfSections() const = 0;
+    virtual int numberOfRowsInSection(int section) const = 0;
+    virtual QQuickItem* cellForRowAtIndexPath(const IndexPath& path) = 0;
+
+protected:
+    // Fills the rows; to be called at the end of a subclass's own.
+    void viewDidLoad() override;
+    // The prototype of this identifier. Throws a StoryboardError if the scene has none.
+    QQuickItem* dequeueReusableCellWithIdentifier(const QString& identifier) const;
+    static void setSelectionStyle(QQuickItem* cell, CellSelectionStyle style);
+};
+
+}  // namespace tarnwick

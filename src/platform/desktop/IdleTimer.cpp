@@ -1,0 +1,74 @@
+#include "platform/desktop/IdleTimer.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QWindow>
+#include <optional>
+#include <utility>
+
+namespace tarnwick {
+
+namespace {
+
+QDBusMessage call(const char* method) {
+    return QDBusMessage::createMethodCall("org.freedesktop.ScreenSaver",
+                                          "/org/freedesktop/ScreenSaver",
+                                          "org.freedesktop.ScreenSaver", method);
+}
+
+// Holds the desktop's promise while the window is active.
+class Inhibition : public QObject {
+public:
+    explicit Inhibition(QWindow* window) : QObject(window), window_(window) {
+        connect(window, &QWindow::activeChanged, this, &Inhibition::follow);
+        follow();
+    }
+
+private:
+    void follow() {
+        // Without an address the library would start a bus of its own.
+        if (qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS"))
+            return;
+        if (window_->isActive() && !cookie_)
+            inhibit();
+        else if (!window_->isActive() && cookie_)
+            release();
+    }
+
+    void inhibit() {
+        auto message = call("Inhibit");
+        message << QStringLiteral("Tarnwick") << QStringLiteral("In front");
+        auto* answer =
+            new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(message), this);
+        connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+            answer->deleteLater();
+            const QDBusPendingReply<uint> cookie = *answer;
+            if (!cookie.isValid())
+                return;  // a desktop without the service; asked again when the window comes back
+            cookie_ = cookie.value();
+            if (!window_->isActive())
+                release();
+        });
+    }
+
+    void release() {
+        auto message = call("UnInhibit");
+        message << *std::exchange(cookie_, std::nullopt);
+        QDBusConnection::sessionBus().asyncCall(message);
+    }
+
+    QWindow* window_;
+    std::optional<uint> cookie_;
+};
+
+}  // namespace
+
+void setIdleTimerDisabled(QWindow* window) {
+    // The bus is asked once the first frame is there.
+    QMetaObject::invokeMethod(
+        window, [window] { new Inhibition(window); }, Qt::QueuedConnection);
+}
+
+}  // namespace tarnwick

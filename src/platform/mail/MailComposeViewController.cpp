@@ -1,0 +1,169 @@
+#include "platform/mail/MailComposeViewController.h"
+
+#include <QLocale>
+#include <QQuickWindow>
+#include <QRegularExpression>
+#include <QTextDocumentFragment>
+#include <algorithm>
+#include <utility>
+
+#include "platform/controllers/NavigationBar.h"
+#include "platform/views/QmlEngine.h"
+#include "platform/windows/Window.h"
+
+namespace tarnwick {
+
+namespace {
+
+constexpr int deleteIndex = 1;
+constexpr int keepIndex = 2;
+
+// So that the line that is written on does not stick to the form's edge; in points.
+constexpr double roomAroundCursor = 12;
+
+const Alert draftQuestion = {.title = "Delete or Keep Draft",
+                             .message = "A draft can be finished in another mail program.",
+                             .cancelButtonTitle = "Cancel",
+                             .otherButtonTitles = {"Delete Draft", "Save Draft"},
+                             .kind = AlertKind::Question};
+
+// Addresses stand between commas, semicolons or blanks.
+QStringList recipientsIn(const QString& text) {
+    static const QRegularExpression between(QStringLiteral("[,;\\s]+"));
+    return text.split(between, Qt::SkipEmptyParts);
+}
+
+QString sizeText(const QByteArray& data) {
+    if (data.isNull())
+        return QStringLiteral("no data");
+    return QLocale::c().formattedDataSize(data.size(), 1, QLocale::DataSizeTraditionalFormat);
+}
+
+QVariantList rowsOf(const QList<ComposedAttachment>& attachments) {
+    QVariantList rows;
+    for (const ComposedAttachment& attachment : attachments)
+        rows.append(
+            QVariantMap{{"name", attachment.fileName}, {"size", sizeText(attachment.data)}});
+    return rows;
+}
+
+// Where a field is written on, in the coordinates of the form's content.
+QRectF cursorOf(const QQuickItem* field, const QQuickItem* form) {
+    return field->mapRectToItem(form->property("contentItem").value<QQuickItem*>(),
+                                field->property("cursorRectangle").toRectF());
+}
+
+}  // namespace
+
+MailComposeViewController::MailComposeViewController(Mailer& mailer) : mailer_(mailer) {
+    addAction("cancel", [this](QQuickItem*) { cancel(); });
+    addAction("send", [this](QQuickItem*) { send(); });
+}
+
+void MailComposeViewController::setMessageBody(const QString& text, IsHtml isHtml) {
+    preset_.body =
+        isHtml == IsHtml::Yes ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
+}
+
+void MailComposeViewController::addAttachmentData(const QByteArray& data, const QString& mimeType,
+                                                  const QString& fileName) {
+    preset_.attachments.append({data, mimeType, fileName});
+}
+
+void MailComposeViewController::loadView() {
+    const NavigationBarLook& look = NavigationBarLook::ofApplication();
+    setView(createQmlItem(QStringLiteral("MailComposer"), nullptr,
+                          {{"barTint", look.barTint},
+                           {"itemTint", look.itemTint},
+                           {"titleColor", look.titleColor},
+                           {"subject", preset_.subject},
+                           {"body", preset_.body},
+                           {"attachments", rowsOf(preset_.attachments)}}));
+}
+
+void MailComposeViewController::viewDidLoad() {
+    ViewController::viewDidLoad();
+    connect(recipientsField_.get(), SIGNAL(textChanged()), this, SLOT(offerSend()));
+    for (const QQuickItem* field :
+         {recipientsField_.get(), subjectField_.get(), bodyField_.get()}) {
+        connect(field, SIGNAL(cursorRectangleChanged()), this, SLOT(keepFocusSeen()));
+        connect(field, &QQuickItem::activeFocusChanged, this,
+                &MailComposeViewController::keepFocusSeen);
+    }
+    connect(form_.get(), SIGNAL(heightChanged()), this, SLOT(keepFocusSeen()));
+    connect(form_.get(), SIGNAL(contentHeightChanged()), this, SLOT(keepFocusSeen()));
+}
+
+void MailComposeViewController::offerSend() {
+    const QStringList recipients = written().recipients;
+    const bool all =
+        std::all_of(recipients.begin(), recipients.end(),
+                    [this](const QString& recipient) { return mailer_.isRecipient(recipient); });
+    view()->setProperty("canSend", all && !recipients.isEmpty());
+}
+
+void MailComposeViewController::keepFocusSeen() {
+    for (const QQuickItem* field :
+         {recipientsField_.get(), subjectField_.get(), bodyField_.get()}) {
+        if (!field->hasActiveFocus())
+            continue;
+        const QRectF cursor = cursorOf(field, form_.get());
+        const double highest = std::max(0.0, cursor.top() - roomAroundCursor);
+        const double lowest = cursor.bottom() + roomAroundCursor - form_->height();
+        const double now = form_->property("contentY").toDouble();
+        form_->setProperty("contentY", std::min(std::max(now, lowest), highest));
+    }
+}
+
+ComposedMail MailComposeViewController::written() const {
+    ComposedMail mail = preset_;
+    mail.recipients = recipientsIn(recipientsField_->property("text").toString());
+    // One line, whatever was pasted.
+    mail.subject = subjectField_->property("text").toString().simplified();
+    mail.body = bodyField_->property("text").toString();
+    return mail;
+}
+
+bool MailComposeViewController::isUntouched() const {
+    const ComposedMail mail = written();
+    return mail.recipients.isEmpty() && mail.subject == preset_.subject.simplified() &&
+           mail.body == preset_.body;
+}
+
+void MailComposeViewController::cancel() {
+    if (isUntouched())
+        return finish(MailComposeResultCancelled, {});
+    if (auto* window = qobject_cast<Window*>(view()->window()))
+        window->alerts().show(
+            draftQuestion, std::static_pointer_cast<MailComposeViewController>(shared_from_this()));
+}
+
+void MailComposeViewController::alertDidDismissWithButtonIndex(const Alert&, int index) {
+    if (index == deleteIndex)
+        finish(MailComposeResultCancelled, {});
+    else if (index == keepIndex)
+        handOver(&Mailer::keepDraft, MailComposeResultSaved, QStringLiteral("Saving…"));
+}
+
+void MailComposeViewController::send() {
+    handOver(&Mailer::send, MailComposeResultSent, QStringLiteral("Sending…"));
+}
+
+void MailComposeViewController::handOver(Order order, MailComposeResult result,
+                                         const QString& meanwhile) {
+    view()->setProperty("busyWith", meanwhile);
+    const auto self = std::weak_ptr(shared_from_this());
+    (mailer_.*order)(written(), [this, self, result](const std::optional<QString>& fault) {
+        if (const auto alive = self.lock())
+            finish(fault ? MailComposeResultFailed : result, fault.value_or(QString()));
+    });
+}
+
+void MailComposeViewController::finish(MailComposeResult result, const QString& error) {
+    auto* delegate = delegate_.get();
+    delegate_.set(nullptr);
+    if (delegate != nullptr)
+        delegate->mailComposeControllerDidFinishWithResult(*this, result, error);
+}
+
+}  // namespace tarnwick

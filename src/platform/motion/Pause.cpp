@@ -1,0 +1,63 @@
+#include "platform/motion/Pause.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+namespace tarnwick {
+
+namespace {
+
+constexpr double millisecondsInASecond = 1000.0;
+
+}  // namespace
+
+Pause::Pause(QObject* parent) : QObject(parent) {
+    connect(&animation_, &QPauseAnimation::finished, this, [this] {
+        const auto task = std::exchange(task_, nullptr);
+        if (task)
+            task();
+    });
+}
+
+void Pause::start(double seconds, std::function<void()> task) {
+    cancel();
+    task_ = std::move(task);
+    animation_.setDuration(static_cast<int>(std::lround(seconds * millisecondsInASecond)));
+    animation_.start();
+}
+
+void Pause::cancel() {
+    task_ = nullptr;
+    animation_.stop();
+}
+
+bool Pause::isRunning() const {
+    return task_ != nullptr;
+}
+
+Stopwatch::Stopwatch(QObject* parent) : QObject(parent) {
+    animation_.setDuration(std::numeric_limits<int>::max());
+}
+
+void Stopwatch::start() {
+    animation_.stop();
+    animation_.start();
+    wall_.start();
+}
+
+void Stopwatch::stop() {
+    animation_.stop();
+}
+
+bool Stopwatch::isRunning() const {
+    return animation_.state() == QAbstractAnimation::Running;
+}
+
+double Stopwatch::seconds() const {
+    const qint64 passed = std::max<qint64>(animation_.currentTime(), wall_.elapsed());
+    return static_cast<double>(passed) / millisecondsInASecond;
+}
+
+}  // namespace tarnwick

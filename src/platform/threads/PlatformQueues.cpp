@@ -1,0 +1,76 @@
+#include "platform/threads/PlatformQueues.h"
+
+#include <sys/resource.h>
+
+#include <QCoreApplication>
+#include <chrono>
+#include <latch>
+#include <thread>
+#include <utility>
+
+#include "platform/threads/MainThread.h"
+
+namespace tarnwick {
+
+namespace {
+
+constexpr int mainThreadNiceness = -10;
+
+}  // namespace
+
+PlatformQueues::PlatformQueues() : usualNiceness_(getpriority(PRIO_PROCESS, 0)) {
+    // The interface goes first where commands keep every core busy. Without the right to it, the
+    // system decides.
+    setpriority(PRIO_PROCESS, 0, mainThreadNiceness);
+}
+
+PlatformQueues::~PlatformQueues() {
+    using namespace std::chrono_literals;
+    const auto idle = [this] { return running_ == 0; };
+    std::unique_lock lock(guard_);
+    while (!ended_.wait_for(lock, 10ms, idle)) {
+        lock.unlock();
+        QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+        lock.lock();
+    }
+}
+
+void PlatformQueues::startThread(Task task) {
+    const std::lock_guard lock(guard_);
+    ++running_;
+    std::thread([this, task = std::move(task)]() mutable {
+        // A thread and the commands that it runs have no part in the main thread's privilege.
+        setpriority(PRIO_PROCESS, 0, usualNiceness_);
+        std::exchange(task, nullptr)();
+        const std::lock_guard done(guard_);
+        --running_;
+        ended_.notify_all();
+    }).detach();
+}
+
+void PlatformQueues::runInBackground(Task task) {
+    startThread(std::move(task));
+}
+
+void PlatformQueues::performOnMainThreadAndWait(Task task) {
+    if (isMainThread()) {
+        task();
+        return;
+    }
+    std::latch done(1);
+    performLaterOnMainThread(this, [&task, &done] {
+        task();
+        done.count_down();
+    });
+    done.wait();
+}
+
+void PlatformQueues::dispatchToGlobalQueue(Task task) {
+    startThread(std::move(task));
+}
+
+void PlatformQueues::dispatchToMainQueue(Task task) {
+    performLaterOnMainThread(this, std::move(task));
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,39 @@
+#include "platform/views/QmlEngine.h"
+
+#include <QCoreApplication>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <utility>
+
+// What a library holds is linked in only if something asks for it.
+extern void qml_register_types_Tarnwick();
+static void initializeResources() {
+    qml_register_types_Tarnwick();
+}
+
+namespace tarnwick {
+
+QQmlEngine& applicationQmlEngine() {
+    static constexpr const char* name = "application engine";
+    QObject* application = QCoreApplication::instance();
+    if (auto* known = application->findChild<QQmlEngine*>(name, Qt::FindDirectChildrenOnly))
+        return *known;
+    initializeResources();
+    auto* engine = new QQmlEngine(application);
+    engine->setObjectName(name);
+    engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
+    return *engine;
+}
+
+QQuickItem* createQmlItem(const QString& typeName, QQuickItem* parent, QVariantMap properties) {
+    QQmlComponent component(&applicationQmlEngine(),
+                            QUrl(QStringLiteral("qrc:/qt/qml/Tarnwick/%1.qml").arg(typeName)));
+    properties.insert(QStringLiteral("parent"), QVariant::fromValue(parent));
+    auto* item = qobject_cast<QQuickItem*>(component.createWithInitialProperties(properties));
+    if (item == nullptr)
+        qFatal("%s", qPrintable(component.errorString()));
+    item->setParent(parent);
+    return item;
+}
+
+}  // namespace tarnwick

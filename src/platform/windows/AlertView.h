@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QQuickItem>
+#include <functional>
+#include <vector>
+
+#include "core/Alert.h"
+#include "platform/motion/Animation.h"
+
+namespace tarnwick {
+
+// One alert on the screen: a panel in the middle of its parent, which it fills. It takes every
+// touch, mouse, wheel and key that reaches it. Keys: Tab and arrows go from button to button,
+// Return, Enter and the space bar press one, Escape presses the cancel button, Page Up and Page
+// Down move a long message. Main thread.
+class AlertView : public QQuickItem {
+    Q_OBJECT
+
+public:
+    AlertView(const Alert& alert, QQuickItem* parent);
+    ~AlertView() override;
+
+    const Alert& alert() const { return alert_; }
+    QQuickItem* panel() const { return panel_; }
+    // As they stand on the screen: from the top down, from left to right.
+    std::vector<QQuickItem*> buttons() const;
+
+    // Gives the keyboard to the button that had it last, at first to the cancel button. The reason
+    // tells whether the focus is to be seen.
+    void takeFocus(Qt::FocusReason reason);
+
+    // Fades and zooms in.
+    void appear();
+    // Fades out if animated; takes no input any more. The task is done once that is over.
+    void leave(Animated animated, std::function<void()> task);
+
+signals:
+    void buttonPressed(int buttonIndex);
+    // Something else got the keyboard while this was visible and not leaving.
+    void focusLost();
+
+protected:
+    bool event(QEvent* event) override;
+    void itemChange(ItemChange change, const ItemChangeData& data) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void touchEvent(QTouchEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    void fillParent();
+    void addButton(const std::string& caption, int index);
+    double hairline() const;
+    bool hasCancelButton() const { return !alert_.cancelButtonTitle.empty(); }
+    QQuickItem* firstFocus() const;
+    void focus(QQuickItem* item, Qt::FocusReason reason);
+    void moveFocus(int step, Qt::FocusReason reason);
+    void scrollToFocus();
+    void scrollText(double distance);
+    double lengthOfPage() const;
+
+    const Alert alert_;
+    QQuickItem* panel_;
+};
+
+// How long an alert takes to come and to go, in seconds.
+inline constexpr double alertAppearDuration = 0.25;
+inline constexpr double alertLeaveDuration = 0.2;
+
+}  // namespace tarnwick

@@ -1,0 +1,176 @@
+// How a finger moves a reveal container's front view.
+#include "platform/gestures/TapGestureRecognizer.h"
+#include "ui/reveal/RevealView.h"
+#include "ui/reveal/RevealViewController.h"
+#include "ui/reveal/RevealViewControllerPanGestureRecognizer.h"
+
+namespace tarnwick {
+
+RevealViewControllerPanGestureRecognizer* RevealViewController::panGestureRecognizer() {
+    if (!panGestureRecognizer_) {
+        view();
+        panGestureRecognizer_ = std::make_unique<RevealViewControllerPanGestureRecognizer>(
+            [this] { handleRevealGesture(); });
+        panGestureRecognizer_->setDelegate(this);
+        addGestureRecognizer(revealView_->frontView(), panGestureRecognizer_.get());
+    }
+    return panGestureRecognizer_.get();
+}
+
+TapGestureRecognizer* RevealViewController::tapGestureRecognizer() {
+    if (!tapGestureRecognizer_) {
+        view();
+        tapGestureRecognizer_ =
+            std::make_unique<TapGestureRecognizer>([this] { handleTapGesture(); });
+        tapGestureRecognizer_->setDelegate(this);
+        addGestureRecognizer(revealView_->frontView(), tapGestureRecognizer_.get());
+    }
+    return tapGestureRecognizer_.get();
+}
+
+bool RevealViewController::gestureRecognizerShouldBegin(GestureRecognizer& recognizer) {
+    return &recognizer == tapGestureRecognizer_.get() ? tapShouldBegin() : panShouldBegin();
+}
+
+bool RevealViewController::gestureRecognizerShouldRecognizeSimultaneouslyWith(
+    GestureRecognizer& recognizer, GestureRecognizer& other) {
+    auto* delegate = delegate_.get();
+    if (delegate == nullptr)
+        return false;
+    if (&recognizer == tapGestureRecognizer_.get())
+        return delegate
+            ->revealControllerTapGestureRecognizerShouldRecognizeSimultaneouslyWithGestureRecognizer(
+                *this, other);
+    return delegate
+        ->revealControllerPanGestureRecognizerShouldRecognizeSimultaneouslyWithGestureRecognizer(
+            *this, other);
+}
+
+bool RevealViewController::panShouldBegin() {
+    if (delegate_.get() != nullptr &&
+        !delegate_.get()->revealControllerPanGestureShouldBegin(*this))
+        return false;
+    const double translation = panGestureRecognizer_->translation(revealView_).x();
+    return dragMayBegin({.from = panGestureRecognizer_->location(revealView_).x() - translation,
+                         .translation = translation,
+                         .width = revealView_->width(),
+                         .borderWidth = draggableBorderWidth,
+                         .position = frontViewPosition_,
+                         .hasRear = rearViewController_ != nullptr,
+                         .hasRight = rightViewController_ != nullptr});
+}
+
+bool RevealViewController::tapShouldBegin() {
+    const bool nothingToClose = frontViewPosition_ == FrontPositionClosed ||
+                                frontViewPosition_ == FrontPositionSlidRightRemoved ||
+                                frontViewPosition_ == FrontPositionSlidLeftRemoved;
+    if (nothingToClose)
+        return false;
+    return delegate_.get() == nullptr ||
+           delegate_.get()->revealControllerTapGestureShouldBegin(*this);
+}
+
+void RevealViewController::handleTapGesture() {
+    setFrontViewPosition(FrontPositionClosed, Animated::Yes);
+}
+
+void RevealViewController::handleRevealGesture() {
+    switch (panGestureRecognizer_->state()) {
+        case GestureState::Began:
+            return beginDrag();
+        case GestureState::Changed:
+            return drag();
+        case GestureState::Ended:
+            return endDrag();
+        case GestureState::Cancelled:
+            return cancelDrag();
+        case GestureState::Possible:
+        case GestureState::Failed:
+            return;
+    }
+}
+
+double RevealViewController::frontX() const {
+    return revealView_->frontView()->x();
+}
+
+RevealGeometry RevealViewController::geometry() const {
+    return geometryIn(revealView_->size());
+}
+
+void RevealViewController::beginDrag() {
+    holdQueue();
+    panInitialFrontPosition_ = frontViewPosition_;
+    userInteractionOff_ = std::make_unique<Cover>(QList<QQuickItem*>{revealView_});
+    revealView_->disableLayout = true;
+    if (auto* delegate = delegate_.get())
+        delegate->revealControllerPanGestureBegan(*this);
+    if (auto* delegate = delegate_.get()) {
+        const RevealProgress at = revealProgress(geometry(), frontX());
+        delegate->revealControllerPanGestureBeganFromLocationProgressOverProgress(
+            *this, frontX(), at.progress, at.overProgress);
+    }
+}
+
+void RevealViewController::drag() {
+    double x = frontLocation(geometry(), panInitialFrontPosition_) +
+               panGestureRecognizer_->translation(revealView_).x();
+    if (x < 0) {
+        if (!rightViewController_)
+            x = 0;
+        prepareSidesFor(FrontPositionSlidLeft);
+    } else if (x > 0) {
+        if (!rearViewController_)
+            x = 0;
+        prepareSidesFor(FrontPositionSlidRight);
+    }
+    revealView_->dragFrontViewTo(x);
+    if (auto* delegate = delegate_.get()) {
+        const RevealProgress at = revealProgress(geometry(), frontX());
+        delegate->revealControllerPanGestureMovedToLocationProgressOverProgress(
+            *this, frontX(), at.progress, at.overProgress);
+    }
+}
+
+void RevealViewController::prepareSidesFor(RevealPosition position) {
+    const auto rightDeployed = deployRight(position);
+    const auto rearDeployed = deployRear(position);
+    rightDeployed();
+    rearDeployed();
+    revealView_->raiseShownSide(position);
+}
+
+void RevealViewController::restoreUserInteraction() {
+    userInteractionOff_.reset();
+    if (!userInteractionStore_)
+        revealView_->setEnabled(false);
+    revealView_->disableLayout = false;
+}
+
+void RevealViewController::notifyDragEnded() {
+    if (auto* delegate = delegate_.get())
+        delegate->revealControllerPanGestureEnded(*this);
+    if (auto* delegate = delegate_.get()) {
+        const RevealProgress at = revealProgress(geometry(), frontX());
+        delegate->revealControllerPanGestureEndedToLocationProgressOverProgress(
+            *this, frontX(), at.progress, at.overProgress);
+    }
+}
+
+void RevealViewController::endDrag() {
+    const RevealMove move =
+        moveOnRelease(geometry(), frontX(), panGestureRecognizer_->velocity(revealView_).x(),
+                      quickFlickVelocity, toggleAnimationDuration);
+    restoreUserInteraction();
+    notifyDragEnded();
+    setPosition(move.position, move.duration);
+}
+
+// The views go back to where the drag began.
+void RevealViewController::cancelDrag() {
+    restoreUserInteraction();
+    notifyDragEnded();
+    setPosition(panInitialFrontPosition_, toggleAnimationDuration);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,166 @@
+#include "ui/reveal/RevealView.h"
+
+#include <QPointerEvent>
+#include <QQuickWindow>
+#include <utility>
+
+#include "platform/controllers/NavigationBar.h"
+#include "platform/controllers/StatusBar.h"
+#include "platform/gestures/HitTest.h"
+#include "platform/views/Layer.h"
+#include "ui/reveal/RevealViewController.h"
+
+namespace tarnwick {
+
+namespace {
+
+void addFrame(std::vector<Change>& changes, QQuickItem* item, const QRectF& frame) {
+    using Property = Change::Property;
+    if (item == nullptr)
+        return;
+    changes.insert(changes.end(), {{item, Property::X, frame.x()},
+                                   {item, Property::Y, frame.y()},
+                                   {item, Property::Width, frame.width()},
+                                   {item, Property::Height, frame.height()}});
+}
+
+// Whether the point of the container's view is inside a child's view that it holds.
+bool isInside(const QQuickItem* container, const QQuickItem* view,
+              const std::shared_ptr<ViewController>& controller, const QPointF& point) {
+    return view != nullptr && controller && controller->isViewLoaded() &&
+           view->contains(container->mapToItem(view, point));
+}
+
+}  // namespace
+
+RevealView::RevealView(RevealViewController* controller)
+    : controller_(controller), frontView_(new QQuickItem(this)) {
+    setFiltersChildMouseEvents(true);
+    setProperty(boundsTouchesProperty, true);
+    Layer::of(this).setBackgroundColor(Qt::black);
+}
+
+QQuickItem* RevealView::slotOf(ChildReplacement operation) const {
+    switch (operation) {
+        case ReplaceRear:
+            return rearView_;
+        case ReplaceFront:
+            return frontView_;
+        case ReplaceRight:
+            return rightView_;
+    }
+    return nullptr;
+}
+
+QQuickItem* RevealView::makeSideView() {
+    auto* view = new QQuickItem(this);
+    view->stackBefore(frontView_);
+    return view;
+}
+
+void RevealView::prepareRearView() {
+    if (rearView_ != nullptr)
+        return;
+    rearView_ = makeSideView();
+    applyAtOnce(changesFor(frontView_->x()));
+}
+
+void RevealView::prepareRightView() {
+    if (rightView_ != nullptr)
+        return;
+    rightView_ = makeSideView();
+    applyAtOnce(changesFor(frontView_->x()));
+}
+
+void RevealView::raiseShownSide(RevealPosition position) {
+    if (rearView_ == nullptr || rightView_ == nullptr)
+        return;
+    if (position < FrontPositionClosed)
+        rightView_->stackAfter(rearView_);
+    else if (position > FrontPositionClosed)
+        rearView_->stackAfter(rightView_);
+}
+
+void RevealView::unloadRearView() {
+    delete std::exchange(rearView_, nullptr);
+}
+
+void RevealView::unloadRightView() {
+    delete std::exchange(rightView_, nullptr);
+}
+
+RevealGeometry RevealView::geometry() const {
+    return controller_->geometryIn(size());
+}
+
+QRectF RevealView::frontFrame(double x) const {
+    QRectF frame(QPointF(x, 0), size());
+    if (controller_->presentFrontViewHierarchically)
+        frame.setTop(navigationBarHeight +
+                     statusBarAdjustment(statusBarFrame(), mapRectToScene(boundingRect())));
+    return frame;
+}
+
+std::vector<Change> RevealView::changesFor(double x) const {
+    std::vector<Change> changes;
+    addFrame(changes, rearView_, rearFrame(geometry(), x));
+    addFrame(changes, rightView_, rightFrame(geometry(), x));
+    return changes;
+}
+
+std::vector<Change> RevealView::layoutChanges() const {
+    if (disableLayout)
+        return {};
+    const double x = frontLocation(geometry(), controller_->frontViewPosition());
+    std::vector<Change> changes = changesFor(x);
+    addFrame(changes, frontView_, frontFrame(x));
+    return changes;
+}
+
+void RevealView::layoutSubviews() {
+    applyAtOnce(layoutChanges());
+}
+
+void RevealView::dragFrontViewTo(double x) {
+    placeFrontViewAt(adjustedDragLocation(geometry(), x, controller_->frontViewPosition()));
+}
+
+void RevealView::placeFrontViewAt(double x) {
+    std::vector<Change> changes = changesFor(x);
+    addFrame(changes, frontView_, frontFrame(x));
+    applyAtOnce(changes);
+}
+
+bool RevealView::contains(const QPointF& point) const {
+    if (QQuickItem::contains(point))
+        return true;
+    return controller_->extendsPointInsideHit &&
+           (isInside(this, rearView_, controller_->rearViewController(), point) ||
+            isInside(this, frontView_, controller_->frontViewController(), point) ||
+            isInside(this, rightView_, controller_->rightViewController(), point));
+}
+
+void RevealView::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
+    QQuickItem::geometryChange(newGeometry, oldGeometry);
+    if (newGeometry.size() == oldGeometry.size())
+        return;
+    if (disableLayout)
+        placeFrontViewAt(frontView_->x());  // under the finger, in its new size
+    else
+        layoutSubviews();
+}
+
+bool RevealView::childMouseEventFilter(QQuickItem* item, QEvent* event) {
+    static_cast<void>(item);
+    if (!event->isPointerEvent())
+        return false;
+    auto* pointerEvent = static_cast<QPointerEvent*>(event);
+    // A child that reaches beyond the bounds is not to be pressed there.
+    const bool outside = pointerEvent->isBeginEvent() &&
+                         !contains(mapFromScene(pointerEvent->points().first().scenePosition()));
+    if (outside)
+        event->ignore();
+    return outside;
+}
+
+}  // namespace tarnwick
