@@ -25,13 +25,13 @@ constexpr long setUsersOfThread = SYS_setresuid32;
 constexpr long setUsersOfThread = SYS_setresuid;
 #endif
 
-// The library's function would change every thread of the process.
+// A system call, as the library's function would change every thread of the process.
 bool becomeInThisThread(uid_t user) {
     return ::syscall(setUsersOfThread, user, user, user) == 0;
 }
 
-// The user's bus says where other buses are, and such an address may name a program. This thread
-// and those that it starts can start none.
+// The user's bus announces the addresses of other buses, and such an address may name a program to
+// start. The threads that this one starts inherit the filter.
 bool forbidProgramsInThisThread() {
     sock_filter rules[] = {
         BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
@@ -50,11 +50,11 @@ bool forbidProgramsInThisThread() {
 void talkToBusesAs(uid_t starter) {
     if (::geteuid() != root || starter == root)
         return;
-    // The toolkit takes the first thread that it sees for the main one.
+    // The toolkit considers the first thread that it sees the main one.
     QThread::currentThread();
     std::thread([starter] {
-        // A new thread is who its maker is, and the thread for buses is made at their first use:
-        // here one is left that was never joined.
+        // A thread inherits its creator's identity, and the thread for buses is created at their
+        // first use: here, leaving a bus that was never joined.
         if (forbidProgramsInThisThread() && becomeInThisThread(starter))
             QDBusConnection::disconnectFromBus("none");
         else

@@ -43,7 +43,7 @@ std::optional<std::string> platformTypeOf(const std::string& machine) {
     std::size_t length = std::max(lengthFound(machine, "iPhone"), lengthFound(machine, "iPad"));
     if (length == 0)
         length = lengthFound(machine, "iPod");
-    // As many characters as the family's word has, wherever it stands.
+    // The length of the match counts, not its place.
     if (length > 0)
         return machine.substr(0, length);
     return std::nullopt;

@@ -5,8 +5,8 @@
 
 namespace tarnwick {
 
-// The name that a machine identifier is sold under: exact for those known, otherwise its family;
-// none if it belongs to no family.
+// The name that a machine is sold under; the name of its family if only that is known; otherwise
+// null.
 std::optional<std::string> platformTypeOf(const std::string& machine);
 
 }  // namespace tarnwick

@@ -7,8 +7,8 @@
 
 namespace tarnwick {
 
-// The program's scenes, with the classes of their controllers and segues. The services outlive all
-// that is made from it.
+// The program's scenes, with the classes of their controllers and segues. The services outlive
+// everything made from it.
 std::shared_ptr<const Storyboard> loadMainStoryboard(const ScreenServices& services);
 
 }  // namespace tarnwick

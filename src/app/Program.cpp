@@ -14,7 +14,7 @@ constexpr QSize phoneSize(375, 667);  // points
 }  // namespace
 
 Program::~Program() {
-    // Screens go before what they work with.
+    // Screens must go before what they work with.
     window_.setRootViewController(nullptr);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
@@ -28,16 +28,16 @@ void Program::activate() {
 
 void Program::activateAction(const QString& name) {
     if (isLaunched())
-        delegate_->applicationPerformActionForShortcutItem(shortcutItem(name), [](bool) {});
+        delegate_.applicationPerformActionForShortcutItem(shortcutItem(name), [](bool) {});
     else
         launch({.shortcutItem = shortcutItem(name)});
 }
 
 void Program::launch(const LaunchOptions& options) {
-    lifeCycle_ = std::make_unique<LifeCycle>(window_, *delegate_);
+    lifeCycle_ = std::make_unique<LifeCycle>(window_, delegate_);
     window_.setTitle(QGuiApplication::applicationDisplayName());
     window_.resize(phoneSize);
-    delegate_->applicationDidFinishLaunchingWithOptions(options);
+    delegate_.applicationDidFinishLaunchingWithOptions(options);
     if (!window_.rootViewController())
         window_.setRootViewController(
             loadMainStoryboard(services_)->instantiateInitialViewController());

@@ -2,7 +2,6 @@
 
 #include <QString>
 #include <memory>
-#include <optional>
 
 #include "app/AppDelegate.h"
 #include "core/ItemCatalogue.h"
@@ -15,8 +14,8 @@
 
 namespace tarnwick {
 
-// The program with all that it works with: nothing of it is seen until it is launched. The
-// destructor waits for tasks that run. Main thread.
+// The program and everything it works with; nothing is visible until it is launched. The destructor
+// waits for running tasks. Main thread.
 class Program {
 public:
     Program() = default;
@@ -25,7 +24,7 @@ public:
     Program& operator=(const Program&) = delete;
 
     bool isLaunched() const { return lifeCycle_ != nullptr; }
-    // The first of these launches the program; later ones bring it to the front, or do the quick
+    // The first call launches the program; later ones bring it to the front, or perform the quick
     // action.
     void activate();
     void activateAction(const QString& name);
@@ -38,13 +37,17 @@ private:
     SystemFileManager files_;
     SystemLog log_;
     Window window_;
-    // It only refers to others, and tasks use it until their queues have gone.
-    const ScreenServices services_ = {catalogue_,       runner_, files_, queues_,
-                                      window_.alerts(), mailer_, log_};
+    // It only refers to the others. Before the queues, as tasks use it until these are gone.
+    const ScreenServices services_ = {.catalogue = catalogue_,
+                                      .runner = runner_,
+                                      .files = files_,
+                                      .queues = queues_,
+                                      .alerts = window_.alerts(),
+                                      .mailer = mailer_,
+                                      .log = log_};
     PlatformQueues queues_;
     ComposerMailer mailer_{queues_};
-    const std::shared_ptr<AppDelegate> delegate_ =
-        std::make_shared<AppDelegate>(window_, services_);
+    AppDelegate delegate_{window_, services_};
     std::unique_ptr<LifeCycle> lifeCycle_;
 };
 

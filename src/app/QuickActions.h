@@ -9,8 +9,8 @@ namespace tarnwick {
 // The program's name on the session bus and to desktops.
 inline constexpr char applicationId[] = "com.fenlow.tarnwick2";
 
-// The shortcut item of an action's short name, such as "save-all", with the title that the home
-// screen shows; an action that it does not show is called by its name.
+// The shortcut item of an action's short name, such as "save-all", with its title on the home
+// screen; an action without a title there gets its name as the title.
 ShortcutItem shortcutItem(const QString& action);
 
 }  // namespace tarnwick

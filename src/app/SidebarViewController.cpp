@@ -7,8 +7,7 @@ void SidebarViewController::viewDidLoad() {
     TableViewController::viewDidLoad();
 }
 
-int SidebarViewController::numberOfRowsInSection(int section) const {
-    static_cast<void>(section);
+int SidebarViewController::numberOfRowsInSection(int) const {
     return static_cast<int>(items_.size());
 }
 

@@ -16,7 +16,7 @@ public:
     int numberOfRowsInSection(int section) const override;
     QQuickItem* cellForRowAtIndexPath(const IndexPath& path) override;
 
-    // Nothing unless it was set: the rows come from a list of the controller's own.
+    // Null unless it was set: the rows come from a list of the controller's own.
     const std::optional<QStringList>& menuItems() const { return menuItems_; }
     void setMenuItems(const QStringList& items) { menuItems_ = items; }
 

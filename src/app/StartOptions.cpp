@@ -10,18 +10,19 @@ const char* const startHelp =
     "Opens Tarnwick's window, or brings it to the front.\n"
     "\n"
     "Options:\n"
-    "  --action NAME  does a quick action if it runs already, or on an iPhone 6s or 6s Plus\n"
-    "  --service      waits for the session bus to tell what to do\n"
-    "  --help         this help\n"
-    "  --version      the version\n";
+    "  --action NAME  perform a quick action; if Tarnwick is not running, on an iPhone 6s or 6s "
+    "Plus only\n"
+    "  --service      wait for a call over the session bus\n"
+    "  --help         print this help\n"
+    "  --version      print the version\n";
 
 std::optional<StartOptions> parseStartOptions(const std::vector<std::string>& words) {
     StartOptions options;
     for (auto word = words.begin(); word != words.end(); ++word) {
         if (*word == "--help")
-            options.purpose = StartOptions::Purpose::TellHelp;
+            options.purpose = StartOptions::Purpose::PrintHelp;
         else if (*word == "--version")
-            options.purpose = StartOptions::Purpose::TellVersion;
+            options.purpose = StartOptions::Purpose::PrintVersion;
         else if (*word == "--service")
             options.isService = true;
         else if (*word == "--action" && word + 1 != words.end() && isActionName(word[1]))

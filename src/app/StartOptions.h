@@ -8,15 +8,14 @@ namespace tarnwick {
 
 // What a start of the window program asks for.
 struct StartOptions {
-    enum class Purpose { Run, TellHelp, TellVersion };
+    enum class Purpose { Run, PrintHelp, PrintVersion };
 
     Purpose purpose = Purpose::Run;
     std::optional<std::string> action;  // the quick action to begin with
-    bool isService = false;             // started by the session bus, which tells what is wanted
+    bool isService = false;             // started by the session bus, whose call follows
 };
 
-// None if the words are wrong. The toolkit's own options are wrong too: they could have it load
-// anything.
+// Null if the words are wrong. The toolkit's own options are wrong too, as they can load plugins.
 std::optional<StartOptions> parseStartOptions(const std::vector<std::string>& words);
 
 extern const char* const startHelp;

@@ -13,7 +13,7 @@
 #include "app/Program.h"
 #include "app/QuickActions.h"
 #include "app/StartOptions.h"
-#include "core/CommandSurroundings.h"
+#include "core/CommandEnvironment.h"
 #include "platform/desktop/SessionApplication.h"
 
 using namespace tarnwick;
@@ -22,13 +22,13 @@ namespace {
 
 enum ExitStatus { Done = 0, Unavailable = 1, WrongUsage = 2 };
 
-// Without the rights, each command fails in its own way.
+// Not checked: without the rights, each command fails in its own way.
 void becomeRoot() {
     [[maybe_unused]] const int user = ::setuid(0);
     [[maybe_unused]] const int group = ::setgid(0);
 }
 
-// Without any, the toolkit would end the program with a crash.
+// Without a display the toolkit aborts.
 bool hasDisplay() {
     return !qEnvironmentVariableIsEmpty("DISPLAY") ||
            !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
@@ -36,9 +36,9 @@ bool hasDisplay() {
 }
 
 void prepareToolkit() {
-    // What is drawn needs no graphics card, and starts faster without one.
+    // The scenes need no graphics card, and start faster without one.
     qputenv("QT_QUICK_BACKEND", "software");
-    // Nor is a card's driver to be loaded with root's rights, which the toolkit would complain of.
+    // No graphics driver is loaded with root's rights; the toolkit would warn about it.
     qputenv("QT_WAYLAND_CLIENT_BUFFER_INTEGRATION", "none");
     QLoggingCategory::setFilterRules("qt.qpa.wayland.warning=false");
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
@@ -74,7 +74,7 @@ int handOver(const SessionApplication& session, const StartOptions& options) {
     return Unavailable;
 }
 
-// A service that nobody calls ends.
+// A service that is not called quits.
 void waitForFirstCall(const Program& program) {
     using namespace std::chrono_literals;
     QTimer::singleShot(10s, [&program] {
@@ -85,7 +85,7 @@ void waitForFirstCall(const Program& program) {
 
 int run(const StartOptions& options, SessionApplication& session) {
     Program program;
-    const QObject listener;  // goes before the program
+    const QObject listener;  // destroyed before the program
     QObject::connect(&session, &SessionApplication::activated, &listener,
                      [&program] { program.activate(); });
     QObject::connect(&session, &SessionApplication::actionActivated, &listener,
@@ -107,7 +107,7 @@ int start(const StartOptions& options, uid_t starter) {
     prepareForCommands();
     prepareToolkit();
     talkToBusesAs(starter);
-    // None of the caller's words are for the toolkit.
+    // The toolkit gets none of the caller's arguments.
     int count = 1;
     char name[] = "RootTarnwick2";
     char* words[] = {name, nullptr};
@@ -130,10 +130,10 @@ int main(int count, char** values) {
         return WrongUsage;
     }
     switch (options->purpose) {
-        case StartOptions::Purpose::TellHelp:
+        case StartOptions::Purpose::PrintHelp:
             std::cout << startHelp;
             return Done;
-        case StartOptions::Purpose::TellVersion:
+        case StartOptions::Purpose::PrintVersion:
             std::cout << "RootTarnwick2 " TARNWICK_VERSION "\n";
             return Done;
         case StartOptions::Purpose::Run:

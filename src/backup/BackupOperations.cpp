@@ -1,13 +1,23 @@
 #include "backup/BackupOperations.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "backup/SavingWork.h"
 #include "core/SafeguardPaths.h"
 
 namespace tarnwick {
 
-BackupOperations::BackupOperations(const ItemCatalogue& catalogue, CommandRunner& runner,
-                                   FileManager& files, Feedback& feedback, TaskQueues& queues)
-    : catalogue_(catalogue), runner_(runner), files_(files), feedback_(feedback), queues_(queues) {}
+NamedActions BackupOperations::actions() {
+    NamedActions actions = {
+        {"saveSources", [this] { saveSources(); }},
+        {"savePackages", [this] { savePackages(); }},
+        {"saveAllInOne", [this] { saveAllInOne(); }},
+    };
+    for (const BackupItem& item : catalogue_)
+        actions["save" + item.key] = [this, &item] { save(item); };
+    return actions;
+}
 
 void BackupOperations::ensureSafeguardFolders() {
     std::vector<std::string_view> missing;
@@ -15,20 +25,20 @@ void BackupOperations::ensureSafeguardFolders() {
         if (!files_.exists(folder))
             missing.push_back(folder);
     for (const std::string_view folder : missing)
-        files_.createDirectory(folder);
+        changes_.createDirectory(folder);
 }
 
 void BackupOperations::saveSources() {
     showBackupHud();
-    saveSourceLists(files_);
-    hideBackupHud();
+    saveSourceLists(files_, changes_);
+    feedback_.hideHud();
     showDone("Cydia Sources Backup");
 }
 
 void BackupOperations::savePackages() {
     showBackupHud();
     savePackageSelections(runner_);
-    hideBackupHud();
+    feedback_.hideHud();
     showDone("Cydia Packages Backup");
 }
 
@@ -39,8 +49,8 @@ void BackupOperations::save(const BackupItem& item) {
 
 void BackupOperations::doSave(const BackupItem& item) {
     feedback_.working(item);
-    archiveItem(item, item.saveCommands, runner_, files_);
-    hideBackupHudOnMainThread();
+    archiveItem(item, item.saveCommands, runner_, changes_);
+    hideHudOnMainThread();
     showResult(item);
 }
 
@@ -52,13 +62,13 @@ void BackupOperations::saveAllInOne() {
 void BackupOperations::doSaveAllInOne() {
     for (const BackupItem& item : catalogue_) {
         feedback_.working(item);
-        archiveItem(item, item.allInOneSaveCommands, runner_, files_);
+        archiveItem(item, item.allInOneSaveCommands, runner_, changes_);
     }
     for (const BackupItem& item : catalogue_)
-        for (std::size_t archive = 0; archive < item.archivePaths.size(); ++archive)
-            showErrorUnlessArchived(item, archive);
-    // Only now, with the error alerts shown already.
-    hideBackupHudOnMainThread();
+        for (const BackupArchive& archive : item.archives)
+            showErrorIfMissing(archive);
+    // The error alerts are shown while the HUD is still up.
+    hideHudOnMainThread();
     showDone("All in One Backup");
 }
 
@@ -66,45 +76,25 @@ void BackupOperations::showBackupHud() {
     feedback_.showHud("Backup in progress...");
 }
 
-void BackupOperations::hideBackupHud() {
-    feedback_.hideHud();
-}
-
-void BackupOperations::hideBackupHudOnMainThread() {
-    queues_.performOnMainThreadAndWait([this] { hideBackupHud(); });
-}
-
 void BackupOperations::showDone(const std::string& title) {
     feedback_.show({.title = title, .message = "Backup done !"});
 }
 
-bool BackupOperations::showErrorUnlessArchived(const BackupItem& item, std::size_t archive) {
-    if (files_.exists(item.archivePaths[archive]))
+bool BackupOperations::showErrorIfMissing(const BackupArchive& archive) {
+    if (files_.exists(archive.path))
         return false;
-    feedback_.show({.title = item.errorTitles[archive],
-                    .message = item.errorMessages[archive],
-                    .kind = AlertKind::Problem});
+    feedback_.show(
+        {.title = archive.errorTitle, .message = archive.errorMessage, .kind = AlertKind::Problem});
     return true;
 }
 
 void BackupOperations::showResult(const BackupItem& item) {
-    // One alert: the first missing archive is told, and those after it are not tested.
-    for (std::size_t archive = 0; archive < item.archivePaths.size(); ++archive)
-        if (showErrorUnlessArchived(item, archive))
-            return;
-    showDone(item.successTitle);
-}
-
-std::vector<BackupAction> backupActions(const ItemCatalogue& catalogue) {
-    std::vector<BackupAction> actions = {
-        {"saveSources", &BackupOperations::saveSources},
-        {"savePackages", &BackupOperations::savePackages},
-        {"saveAllInOne", &BackupOperations::saveAllInOne},
-    };
-    for (const BackupItem& item : catalogue)
-        actions.push_back(
-            {"save" + item.key, [&item](BackupOperations& operations) { operations.save(item); }});
-    return actions;
+    // Only the first missing archive is reported; those after it are not tested.
+    const bool isMissing = std::ranges::any_of(item.archives, [this](const BackupArchive& archive) {
+        return showErrorIfMissing(archive);
+    });
+    if (!isMissing)
+        showDone(item.successTitle);
 }
 
 }  // namespace tarnwick

@@ -1,29 +1,24 @@
 #pragma once
 
-#include <functional>
 #include <string>
-#include <vector>
 
-#include "core/CommandRunner.h"
-#include "core/Feedback.h"
-#include "core/FileManager.h"
-#include "core/ItemCatalogue.h"
-#include "core/TaskQueues.h"
+#include "core/TaskOperations.h"
 
 namespace tarnwick {
 
-// The tasks of the Backup screen: each shows the HUD, works, hides the HUD and tells the result.
-// Success is judged by the archives alone, so an older one counts too. Must outlive the tasks that
-// it started.
-class BackupOperations {
+// The tasks of the Backup screen: each shows the HUD, works, hides the HUD and reports the result.
+// Only the existence of the archives counts as success, so an older one will do.
+class BackupOperations : public TaskOperations {
 public:
-    BackupOperations(const ItemCatalogue& catalogue, CommandRunner& runner, FileManager& files,
-                     Feedback& feedback, TaskQueues& queues);
+    using TaskOperations::TaskOperations;
 
-    // Makes those of the four safeguard folders that are missing. A failure is not told.
+    // One for each button. The operations must outlive them.
+    NamedActions actions();
+
+    // Creates the safeguard folders that are missing. A failure is not reported.
     void ensureSafeguardFolders();
 
-    // Main thread, which they block. They always tell success.
+    // Main thread, which they block. They always report success.
     void saveSources();
     void savePackages();
 
@@ -37,27 +32,9 @@ public:
 
 private:
     void showBackupHud();
-    void hideBackupHud();
-    void hideBackupHudOnMainThread();
     void showDone(const std::string& title);
-    bool showErrorUnlessArchived(const BackupItem& item, std::size_t archive);
+    bool showErrorIfMissing(const BackupArchive& archive);
     void showResult(const BackupItem& item);
-
-    const ItemCatalogue& catalogue_;
-    CommandRunner& runner_;
-    FileManager& files_;
-    Feedback& feedback_;
-    TaskQueues& queues_;
 };
-
-// A button of the Backup screen calls its action by name.
-struct BackupAction {
-    std::string name;  // such as "saveAccounts"
-    std::function<void(BackupOperations&)> run;
-};
-
-// In the order of the buttons: sources, packages, all in one, then one for each item. The catalogue
-// must outlive the actions.
-std::vector<BackupAction> backupActions(const ItemCatalogue& catalogue);
 
 }  // namespace tarnwick

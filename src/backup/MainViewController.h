@@ -6,19 +6,14 @@
 namespace tarnwick {
 
 // The Backup screen.
-class MainViewController : public ItemsScreen {
-    Q_OBJECT
-
+class MainViewController : public ItemsScreen<BackupOperations> {
 public:
-    explicit MainViewController(const ScreenServices& services);
+    using ItemsScreen::ItemsScreen;
 
     Outlet<QQuickItem> mainBackup{this, "mainBackup"};
 
 protected:
     void viewDidLoad() override;
-
-private:
-    BackupOperations operations_;
 };
 
 }  // namespace tarnwick

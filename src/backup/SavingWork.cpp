@@ -8,7 +8,7 @@ namespace tarnwick {
 namespace {
 
 // Cydia's lines come first. Nothing is dropped, empty lines included.
-std::string mergedSources(const FileManager& files) {
+std::string mergedSources(const FileReader& files) {
     const auto ownText = files.readText(paths::ownAptList);
     const auto cacheText = files.readText(paths::cydiaCacheList);
     Lines lines = splitLines(cacheText);
@@ -17,31 +17,31 @@ std::string mergedSources(const FileManager& files) {
     return joinLines(lines);
 }
 
-void saveCachedSources(FileManager& files) {
+void saveCachedSources(const FileReader& files, FileWriter& changes) {
     if (files.exists(paths::savedSourcesList))
-        files.remove(paths::savedSourcesList);
+        changes.remove(paths::savedSourcesList);
     if (!files.exists(paths::ownAptList)) {
-        files.copy(paths::cydiaCacheList, paths::savedSourcesList);
+        changes.copy(paths::cydiaCacheList, paths::savedSourcesList);
         return;
     }
     const std::string text = mergedSources(files);
-    files.createFile(paths::savedSourcesList);
-    files.writeText(paths::savedSourcesList, text);
+    changes.createFile(paths::savedSourcesList);
+    changes.writeText(paths::savedSourcesList, text);
 }
 
-void saveCydiaList(FileManager& files) {
+void saveCydiaList(const FileReader& files, FileWriter& changes) {
     if (files.exists(paths::savedCydiaList))
-        files.remove(paths::savedCydiaList);
-    files.copy(paths::cydiaAptList, paths::savedCydiaList);
+        changes.remove(paths::savedCydiaList);
+    changes.copy(paths::cydiaAptList, paths::savedCydiaList);
 }
 
 }  // namespace
 
-void saveSourceLists(FileManager& files) {
+void saveSourceLists(const FileReader& files, FileWriter& changes) {
     if (files.exists(paths::cydiaCacheList))
-        saveCachedSources(files);
+        saveCachedSources(files, changes);
     else
-        saveCydiaList(files);
+        saveCydiaList(files, changes);
 }
 
 void savePackageSelections(CommandRunner& runner) {
@@ -49,11 +49,11 @@ void savePackageSelections(CommandRunner& runner) {
 }
 
 void archiveItem(const BackupItem& item, const std::vector<std::string>& lines,
-                 CommandRunner& runner, FileManager& files) {
+                 CommandRunner& runner, FileWriter& changes) {
     for (const std::string& line : lines)
         runner.run(line);
     for (const std::string& staging : item.stagingPaths)
-        files.remove(staging);
+        changes.remove(staging);
 }
 
 }  // namespace tarnwick

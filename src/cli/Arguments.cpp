@@ -26,7 +26,7 @@ std::vector<std::string> optionWords() {
     return words;
 }
 
-// None if it is no option.
+// Null if it is not an option.
 const Option* optionOf(const std::string& word) {
     for (const Option& option : optionTable())
         if (word == option.word || (!word.empty() && word == option.shortWord))
@@ -49,8 +49,8 @@ void addRecipient(Arguments& arguments, const std::string& address) {
         arguments.fault = "\"" + address + "\" is not a mail address";
 }
 
-// Takes an option, and its value from the word itself, after "=", or from the next word. Tells how
-// many words that were.
+// Takes an option, with a value from the word itself, after "=", or from the next word. Returns the
+// number of words taken.
 std::size_t takeOption(Arguments& arguments, const std::string& word, const std::string& next) {
     const std::size_t equals = word.find('=');
     const Option* option = optionOf(word);
@@ -72,17 +72,32 @@ std::size_t takeOption(Arguments& arguments, const std::string& word, const std:
 
 const std::vector<Option>& optionTable() {
     static const std::vector<Option> options = {
-        {"--yes", "-y", "", "answer confirmations with yes", &Arguments::yes},
-        {"--then", "", "respring|reboot|nothing", "answer the offer after a restore", nullptr,
-         setAnswer},
-        {"--to", "", "ADDRESS", "mail to this address; may be repeated", nullptr, addRecipient},
-        {"--dry-run", "-n", "",
-         "print the command lines and file changes in order and do none of them",
-         &Arguments::dryRun},
-        {"--json", "", "", "print one object a line", &Arguments::json},
-        {"--verbose", "-v", "", "show what the started commands print", &Arguments::verbose},
-        {"--help", "-h", "", "print this help", &Arguments::help},
-        {"--version", "", "", "print the version", &Arguments::version},
+        {.word = "--yes",
+         .shortWord = "-y",
+         .purpose = "answer confirmations with yes",
+         .flag = &Arguments::yes},
+        {.word = "--then",
+         .values = "respring|reboot|nothing",
+         .purpose = "answer the offer after a restore",
+         .take = setAnswer},
+        {.word = "--to",
+         .values = "ADDRESS",
+         .purpose = "mail to this address; may be repeated",
+         .take = addRecipient},
+        {.word = "--dry-run",
+         .shortWord = "-n",
+         .purpose = "print the command lines and file changes in order and do none of them",
+         .flag = &Arguments::dryRun},
+        {.word = "--json", .purpose = "print one object a line", .flag = &Arguments::json},
+        {.word = "--verbose",
+         .shortWord = "-v",
+         .purpose = "show what the started commands print",
+         .flag = &Arguments::verbose},
+        {.word = "--help",
+         .shortWord = "-h",
+         .purpose = "print this help",
+         .flag = &Arguments::help},
+        {.word = "--version", .purpose = "print the version", .flag = &Arguments::version},
     };
     return options;
 }

@@ -8,7 +8,7 @@
 
 namespace tarnwick {
 
-// What was typed, taken apart. Options may stand anywhere; "--" ends them.
+// The parsed command line. Options may stand anywhere; "--" ends them.
 struct Arguments {
     std::vector<std::string> words;  // the command and what follows it
     bool yes = false;
@@ -17,20 +17,20 @@ struct Arguments {
     bool verbose = false;
     bool help = false;
     bool version = false;
-    // The answer to the offer after a restore: Offer::None is "nothing"; not set, ask.
+    // The answer to the offer after a restore: Offer::None is "nothing"; null asks.
     std::optional<Offer> then;
     std::vector<std::string> to;  // well-formed addresses
-    // What is wrong with the options; the other fields are then not complete.
+    // What is wrong with the options; the other fields are incomplete then.
     std::optional<std::string> fault;
 };
 
-// An option, for the parser, the help and the completions alike: it sets a flag, or takes a value.
+// An option, for the parser, the help and the completions: it sets a flag, or takes a value.
 struct Option {
     std::string word;
-    std::string shortWord;
-    std::string values;  // words between bars, or in capitals what the value is
+    std::string shortWord = {};
+    std::string values = {};  // words between bars, or a placeholder in capitals
     std::string purpose;
-    bool Arguments::*flag;
+    bool Arguments::*flag = nullptr;
     void (*take)(Arguments& arguments, const std::string& value) = nullptr;
 };
 const std::vector<Option>& optionTable();

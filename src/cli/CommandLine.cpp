@@ -4,17 +4,11 @@
 
 #include "cli/CommandTable.h"
 #include "cli/RunLock.h"
+#include "core/JoinedText.h"
 
 namespace tarnwick {
 
 namespace {
-
-std::string listed(const std::vector<std::string>& words) {
-    std::string text;
-    for (const std::string& word : words)
-        text += (text.empty() ? "" : ", ") + word;
-    return text;
-}
 
 std::vector<std::string> namesOf(const std::vector<Command>& commands) {
     std::vector<std::string> names;
@@ -39,32 +33,32 @@ std::optional<std::string> faultOf(const Command& command, const std::vector<std
             return unknownWord("word for " + command.name, word, command.words);
     }
     if (words.size() < command.fewestWords)
-        return command.name + " needs one of: " + listed(command.words);
+        return command.name + " needs one of: " + joined(command.words, ", ");
     if (words.size() > command.mostWords)
         return command.name + " takes one word only";
     return std::nullopt;
 }
 
 ExitStatus wrongUsage(Session& session, const std::string& fault) {
-    session.output.complaint(fault);
-    session.output.prompt("Try \"tarnwick --help\".\n");
+    session.output().complaint(fault);
+    session.output().prompt("Try \"tarnwick --help\".\n");
     return WrongUsage;
 }
 
 ExitStatus runLocked(Session& session, const Command& command,
                      const std::vector<std::string>& words) {
-    if (!session.world.isRoot) {
-        session.output.complaint(command.name + " needs root");
+    if (!session.world().isRoot) {
+        session.output().complaint(command.name + " needs root");
         return NotRoot;
     }
-    const RunLock lock(session.world.lockPath);
+    const RunLock lock(session.world().lockPath);
     if (lock.state() == RunLock::State::TakenByAnother) {
-        session.output.complaint("another run is under way");
+        session.output().complaint("another run is under way");
         return RunUnderWay;
     }
     if (lock.state() == RunLock::State::Unavailable) {
-        session.output.complaint("cannot tell whether another run is under way: " +
-                                 session.world.lockPath + " cannot be opened");
+        session.output().complaint("cannot tell whether another run is under way: " +
+                                   session.world().lockPath + " cannot be opened");
         return NotAllDone;
     }
     return command.run(session, words);
@@ -72,28 +66,28 @@ ExitStatus runLocked(Session& session, const Command& command,
 
 ExitStatus runCommand(Session& session, const std::string& name,
                       const std::vector<std::string>& words) {
-    const auto commands = commandTable(session.catalogue);
+    const auto commands = commandTable(session.catalogue());
     const Command* command = commandOf(commands, name);
     if (command == nullptr)
         return wrongUsage(session, unknownWord("command", name, namesOf(commands)));
     if (const auto fault = faultOf(*command, words))
         return wrongUsage(session, *fault);
-    if (command->reach == Reach::Changes && !session.arguments.dryRun)
+    if (command->reach == Reach::Changes && !session.arguments().dryRun)
         return runLocked(session, *command, words);
     return command->run(session, words);
 }
 
 ExitStatus run(Session& session) {
-    const Arguments& arguments = session.arguments;
+    const Arguments& arguments = session.arguments();
     if (arguments.fault)
         return wrongUsage(session, *arguments.fault);
     if (arguments.help) {
-        const std::string help = helpText(session.catalogue);
-        session.output.result(help, {{"help", help}});
+        const std::string help = helpText(session.catalogue());
+        session.output().result(help, {{"help", help}});
         return AllDone;
     }
     if (arguments.version) {
-        session.output.result("tarnwick " TARNWICK_VERSION, {{"version", TARNWICK_VERSION}});
+        session.output().result("tarnwick " TARNWICK_VERSION, {{"version", TARNWICK_VERSION}});
         return AllDone;
     }
     if (arguments.words.empty())
@@ -107,9 +101,9 @@ ExitStatus run(Session& session) {
 ExitStatus runCommandLine(const Arguments& arguments, const World& world) {
     Session session(world, arguments);
     const ExitStatus status = run(session);
-    if (status != AllDone || !session.output.lostResult())
+    if (status != AllDone || !session.output().lostResult())
         return status;
-    session.output.complaint("the results cannot be written");
+    session.output().complaint("the results cannot be written");
     return NotAllDone;
 }
 

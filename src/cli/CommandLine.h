@@ -6,7 +6,7 @@
 
 namespace tarnwick {
 
-// Does what was typed. Everything that the run needs of its surroundings comes with the world.
+// Does what was typed. Everything that the run takes from its environment comes with the world.
 ExitStatus runCommandLine(const Arguments& arguments, const World& world);
 
 }  // namespace tarnwick

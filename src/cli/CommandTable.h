@@ -11,19 +11,19 @@
 namespace tarnwick {
 
 enum class Reach {
-    Looks,   // for anybody, at any time
+    Looks,   // for everybody, at any time
     Changes  // needs root, and that no other run is under way
 };
 
-// One verb of the command: the table of them feeds dispatch, help, man page and completions alike.
+// One verb of the command. Their table feeds dispatch, help, man page and completions.
 struct Command {
     std::string name;
-    std::string synopsis;  // of what follows the name
+    std::string synopsis = {};  // of what follows the name
     std::string purpose;
-    Reach reach;
-    std::vector<std::string> words;  // what may follow the name; empty if nothing may
-    std::size_t fewestWords;
-    std::size_t mostWords;
+    Reach reach = Reach::Looks;
+    std::vector<std::string> words = {};  // what may follow the name
+    std::size_t fewestWords = 0;
+    std::size_t mostWords = 0;
     ExitStatus (*run)(Session& session, const std::vector<std::string>& words);
 };
 

@@ -9,10 +9,7 @@
 
 namespace tarnwick {
 
-// What can be saved and restored, in the order of the buttons: sources, packages, all, then the
-// items.
-std::vector<std::string> targetWords(const ItemCatalogue& catalogue);
-// The folders that can be made again.
+// The folders that can be recreated.
 std::vector<std::string> folderWords();
 
 ExitStatus saveTargets(Session& session, const std::vector<std::string>& words);
@@ -20,10 +17,10 @@ ExitStatus restoreTargets(Session& session, const std::vector<std::string>& word
 
 ExitStatus listSafeguard(Session& session, const std::vector<std::string>& words);
 ExitStatus checkArchives(Session& session, const std::vector<std::string>& words);
-ExitStatus tellStorage(Session& session, const std::vector<std::string>& words);
-ExitStatus tellHelpTexts(Session& session, const std::vector<std::string>& words);
+ExitStatus showStorage(Session& session, const std::vector<std::string>& words);
+ExitStatus showHelpTexts(Session& session, const std::vector<std::string>& words);
 
-ExitStatus tellSize(Session& session, const std::vector<std::string>& words);
+ExitStatus showSize(Session& session, const std::vector<std::string>& words);
 ExitStatus recreateFolders(Session& session, const std::vector<std::string>& words);
 ExitStatus removeSaved(Session& session, const std::vector<std::string>& words);
 ExitStatus respringDevice(Session& session, const std::vector<std::string>& words);

@@ -2,7 +2,7 @@
 
 namespace tarnwick {
 
-// What the command ends with.
+// The exit status of the command.
 enum ExitStatus : int {
     AllDone = 0,
     // An archive or a backup is missing or damaged, a question was answered with no, or the run

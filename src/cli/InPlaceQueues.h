@@ -4,7 +4,7 @@
 
 namespace tarnwick {
 
-// A terminal has nothing to keep alive meanwhile: every task runs at once, on the caller's thread.
+// Runs every task at once on the caller's thread: a terminal needs nothing meanwhile.
 class InPlaceQueues : public TaskQueues {
 public:
     void runInBackground(Task task) override { task(); }

@@ -23,13 +23,13 @@ std::string rightAligned(const std::string& text, std::size_t width) {
     return std::string(width - std::min(width, text.size()), ' ') + text;
 }
 
-void tellFile(Session& session, const std::string& folder, const std::string& name) {
+void showFile(Session& session, const std::string& folder, const std::string& name) {
     constexpr std::size_t sizeWidth = 12;
     const std::string path = folder + "/" + name;
-    const auto size = session.files.fileSize(path);
-    const auto modified = session.files.modificationTime(path).value_or(0);
+    const auto size = session.files().fileSize(path);
+    const auto modified = session.files().modificationTime(path).value_or(0);
     const std::string shown = folder.substr(folder.rfind('/') + 1) + "/" + name;
-    session.output.result(
+    session.output().result(
         formattedTime(modified, "%Y-%m-%d %H:%M", ::localtime_r) + "  " +
             rightAligned(memoryFormatterDouble(static_cast<double>(size)), sizeWidth) + "  " +
             shown,
@@ -38,57 +38,56 @@ void tellFile(Session& session, const std::string& folder, const std::string& na
          {"modified", formattedTime(modified, "%Y-%m-%dT%H:%M:%SZ", ::gmtime_r)}});
 }
 
-// Whether the safeguard folder can be looked into; says so if not. One that is not there holds
-// nothing.
+// Complains if a part of the safeguard folder cannot be listed. One that does not exist is empty.
 bool isReadable(Session& session) {
     for (const std::string_view folder : paths::safeguardFolders) {
-        if (session.files.list(folder) || !session.files.exists(folder))
+        if (session.files().list(folder) || !session.files().exists(folder))
             continue;
-        session.output.complaint(std::string(folder) + " cannot be read");
+        session.output().complaint(std::string(folder) + " cannot be read");
         return false;
     }
     return true;
 }
 
 ExitStatus unreadable(const Session& session) {
-    return session.world.isRoot ? NotAllDone : NotRoot;
+    return session.world().isRoot ? NotAllDone : NotRoot;
 }
 
-// Tells how many files there were.
+// Returns the number of files.
 std::size_t listFolder(Session& session, const std::string& folder) {
-    auto names = session.files.list(folder).value_or(std::vector<std::string>{});
+    auto names = session.files().list(folder).value_or(std::vector<std::string>{});
     std::sort(names.begin(), names.end());
     for (const std::string& name : names)
-        tellFile(session, folder, name);
+        showFile(session, folder, name);
     return names.size();
 }
 
-// The named items' archives; without names, every archive that is there.
+// The archives of the named items; without names, all existing archives.
 std::vector<std::string> archivesOf(Session& session, const std::vector<std::string>& words) {
     std::vector<std::string> archives;
-    for (const BackupItem& item : session.catalogue) {
+    for (const BackupItem& item : session.catalogue()) {
         const bool named =
             std::find(words.begin(), words.end(), kebabCase(item.key)) != words.end();
-        for (const std::string& path : item.archivePaths)
-            if (named || (words.empty() && session.files.exists(path)))
+        for (const std::string& path : item.archivePaths())
+            if (named || (words.empty() && session.files().exists(path)))
                 archives.push_back(path);
     }
     return archives;
 }
 
-// One archive's verdict; false unless it is whole.
+// Prints the archive's verdict; false unless it is whole.
 bool checkArchive(Session& session, const std::string& path) {
     const std::string name = path.substr(path.rfind('/') + 1);
-    const bool there = session.files.exists(path);
-    const bool whole = there && session.runner.run("/usr/bin/unzip -tqq " + path) == 0;
-    const std::string verdict = whole ? "good" : there ? "damaged" : "missing";
+    const bool exists = session.files().exists(path);
+    const bool whole = exists && session.runner().run("/usr/bin/unzip -tqq " + path) == 0;
+    const std::string verdict = whole ? "good" : exists ? "damaged" : "missing";
     const JsonFields fields = {{"archive", name}, {"verdict", verdict}};
-    if (session.arguments.dryRun)
+    if (session.arguments().dryRun)
         return true;
     if (whole)
-        session.output.result(name + ": " + verdict, fields);
+        session.output().result(name + ": " + verdict, fields);
     else
-        session.output.problem(name + ": " + verdict, fields);
+        session.output().problem(name + ": " + verdict, fields);
     return whole;
 }
 
@@ -101,8 +100,8 @@ ExitStatus listSafeguard(Session& session, const std::vector<std::string>&) {
     for (const std::string_view folder :
          {paths::sourcesFolder, paths::packagesFolder, paths::archiveFolder})
         count += listFolder(session, std::string(folder));
-    if (count == 0 && !session.arguments.json)
-        session.output.result("The safeguard folder is empty.", {});
+    if (count == 0 && !session.arguments().json)
+        session.output().result("The safeguard folder is empty.", {});
     return AllDone;
 }
 
@@ -111,31 +110,31 @@ ExitStatus checkArchives(Session& session, const std::vector<std::string>& words
         return unreadable(session);
     const auto archives = archivesOf(session, words);
     if (archives.empty()) {
-        session.output.complaint("there is no archive");
+        session.output().complaint("there is no archive");
         return NotAllDone;
     }
     const auto work = [&] {
         for (const std::string& archive : archives)
             if (!checkArchive(session, archive))
-                session.feedback.noteProblem();
+                session.feedback().noteProblem();
     };
     return session.perform(work, {});
 }
 
-ExitStatus tellStorage(Session& session, const std::vector<std::string>&) {
-    session.options.readStorageFigures(
+ExitStatus showStorage(Session& session, const std::vector<std::string>&) {
+    session.options().readStorageFigures(
         [&session](const std::string& total, const std::string& free) {
-            session.output.result("Total: " + total + "\nFree: " + free,
-                                  {{"total", total}, {"free", free}});
+            session.output().result("Total: " + total + "\nFree: " + free,
+                                    {{"total", total}, {"free", free}});
         });
     return AllDone;
 }
 
-ExitStatus tellHelpTexts(Session& session, const std::vector<std::string>&) {
+ExitStatus showHelpTexts(Session& session, const std::vector<std::string>&) {
     bool first = true;
     for (const HelpText& text : helpTexts()) {
-        session.output.result((first || session.arguments.json ? "" : "\n") + text.text,
-                              {{"name", text.label}, {"text", text.text}});
+        session.output().result((first || session.arguments().json ? "" : "\n") + text.text,
+                                {{"name", text.label}, {"text", text.text}});
         first = false;
     }
     return AllDone;

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -12,7 +11,7 @@ namespace tarnwick {
 using JsonValue = std::variant<std::string, std::int64_t>;
 using JsonFields = std::vector<std::pair<std::string, JsonValue>>;
 
-// One object on one line. What is not valid UTF-8 in a text becomes U+FFFD, byte by byte.
+// One object on one line. Invalid UTF-8 becomes U+FFFD.
 std::string jsonObject(const JsonFields& fields);
 
 }  // namespace tarnwick

@@ -7,19 +7,20 @@ namespace tarnwick {
 
 namespace {
 
-// Answers the question that the action asks, if it may be answered, with its first other button.
+// Presses the first other button of the question that the action asks, unless that is refused.
 ExitStatus confirmed(Session& session, void (OptionsOperations::*action)()) {
-    (session.options.*action)();
-    const Alert question = session.feedback.takeQuestion().value();
+    (session.options().*action)();
+    const Alert question = session.feedback().takeQuestion().value();
     if (const auto refused = session.refusal(question))
         return *refused;
-    return session.perform([&] { session.options.alertViewClickedButtonAtIndex(question, 1); }, {});
+    return session.perform([&] { session.options().alertViewClickedButtonAtIndex(question, 1); },
+                           {});
 }
 
-// The words of the command line are themselves the answer to a choice.
+// The words of the command line answer the choice.
 void choose(Session& session, int buttonIndex) {
-    session.options.alertViewClickedButtonAtIndex(session.feedback.takeQuestion().value(),
-                                                  buttonIndex);
+    session.options().alertViewClickedButtonAtIndex(session.feedback().takeQuestion().value(),
+                                                    buttonIndex);
 }
 
 int buttonIndexOf(const std::string& word, const std::vector<std::string>& words) {
@@ -35,14 +36,14 @@ std::vector<std::string> folderWords() {
     return words;
 }
 
-ExitStatus tellSize(Session& session, const std::vector<std::string>& words) {
-    const BackupItem& item = *itemOfWord(session.catalogue, words.front());
-    session.feedback.setPlan({&item});
+ExitStatus showSize(Session& session, const std::vector<std::string>& words) {
+    const BackupItem& item = *itemOfWord(session.catalogue(), words.front());
+    session.feedback().setPlan({&item});
     std::vector<std::string> leftovers = item.sizeCopyPaths;
     leftovers.insert(leftovers.end(), item.sizeArchivePaths.begin(), item.sizeArchivePaths.end());
     const auto work = [&] {
-        session.options.backupSize();
-        choose(session, buttonIndexOf(words.front(), itemWords(session.catalogue)));
+        session.options().backupSize();
+        choose(session, buttonIndexOf(words.front(), itemWords(session.catalogue())));
     };
     return session.perform(work, leftovers);
 }
@@ -51,7 +52,7 @@ ExitStatus recreateFolders(Session& session, const std::vector<std::string>& wor
     constexpr int allFolders = 1;
     constexpr int partially = 2;
     const auto work = [&] {
-        session.options.recreateApplicationFolders();
+        session.options().recreateApplicationFolders();
         choose(session, words.empty() ? allFolders : partially);
         if (!words.empty())
             choose(session, buttonIndexOf(words.front(), folderWords()));

@@ -6,9 +6,8 @@
 
 namespace tarnwick {
 
-// The word that begins as typed, else the one that takes the fewest changes (a letter put in, left
-// out or replaced, or two neighbours swapped); the first of several. There must be at least one
-// word.
+// The first word that begins as typed; else the first with the smallest edit distance (insertion,
+// deletion, substitution, transposition). There must be at least one word.
 const std::string& nearestWord(std::string_view typed, const std::vector<std::string>& words);
 
 }  // namespace tarnwick

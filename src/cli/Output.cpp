@@ -1,35 +1,19 @@
 #include "cli/Output.h"
 
-#include <poll.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <cerrno>
 #include <string_view>
 
 #include "core/TextLines.h"
+#include "core/WriteAll.h"
 
 namespace tarnwick {
 
 namespace {
 
-void awaitReader(int descriptor) {
-    struct pollfd reader = {descriptor, POLLOUT, 0};
-    ::poll(&reader, 1, -1);
-}
-
-// False if the text was lost. Where nobody reads any more nothing is lost.
-bool writeAll(int descriptor, std::string_view text) {
-    while (!text.empty()) {
-        const ssize_t count = ::write(descriptor, text.data(), text.size());
-        if (count > 0)
-            text.remove_prefix(static_cast<std::size_t>(count));
-        else if (errno == EAGAIN)
-            awaitReader(descriptor);
-        else if (errno != EINTR)
-            return errno == EPIPE;
-    }
-    return true;
+// False if the text was lost. Nothing is lost if nobody reads the stream any more.
+bool deliver(int descriptor, std::string_view text) {
+    return writeAll(descriptor, text) || errno == EPIPE;
 }
 
 bool isControl(std::string_view character) {
@@ -40,7 +24,7 @@ bool isControl(std::string_view character) {
            static_cast<unsigned char>(character[1]) < 0xA0;
 }
 
-// Texts may hold names of files, and those anything: a terminal is to see no control characters.
+// File names may contain control characters, which a terminal must not see.
 std::string printable(std::string_view text) {
     std::string shown;
     for (std::size_t position = 0; position < text.size();) {
@@ -64,13 +48,13 @@ Output::Output(const Streams& streams, Format format, Colour colour)
 
 void Output::result(const std::string& text, const JsonFields& fields) {
     const std::string shown = format_ == Format::Json ? jsonObject(fields) : printable(text);
-    if (!writeAll(streams_.results, shown + "\n"))
+    if (!deliver(streams_.results, shown + "\n"))
         lostResult_ = true;
 }
 
 void Output::problem(const std::string& text, const JsonFields& fields) {
     const std::string shown = colour_ == Colour::Coloured ? red(printable(text)) : printable(text);
-    writeAll(streams_.problems, (format_ == Format::Json ? jsonObject(fields) : shown) + "\n");
+    deliver(streams_.problems, (format_ == Format::Json ? jsonObject(fields) : shown) + "\n");
 }
 
 void Output::alert(const Alert& alert) {
@@ -83,11 +67,11 @@ void Output::alert(const Alert& alert) {
 }
 
 void Output::complaint(const std::string& text) {
-    writeAll(streams_.problems, "tarnwick: " + printable(text) + "\n");
+    deliver(streams_.problems, "tarnwick: " + printable(text) + "\n");
 }
 
 void Output::prompt(const std::string& text) {
-    writeAll(streams_.problems, printable(text));
+    deliver(streams_.problems, printable(text));
 }
 
 }  // namespace tarnwick

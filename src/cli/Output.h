@@ -11,8 +11,8 @@ namespace tarnwick {
 enum class Format { Text, Json };
 enum class Colour { Plain, Coloured };
 
-// Writes lines: results to the one stream, problems to the other. A stream that nobody reads any
-// more is written to no longer and holds nothing up. One thread at a time.
+// Writes lines: results to one stream, problems to the other. A stream that nobody reads any more
+// does not hold up the run. One thread at a time.
 class Output {
 public:
     Output(const Streams& streams, Format format, Colour colour);
@@ -22,11 +22,11 @@ public:
     // Whether a result could not be written, on a full disk for example.
     bool lostResult() const { return lostResult_; }
     void problem(const std::string& text, const JsonFields& fields);
-    // "TITLE: MESSAGE", as a result or a problem by the alert's kind.
+    // "TITLE: MESSAGE", as a result or a problem depending on the alert's kind.
     void alert(const Alert& alert);
-    // A word from the program itself, always as text, to the stream of the problems.
+    // A message of the program itself, always as text, to the stream of the problems.
     void complaint(const std::string& text);
-    // Text as it stands, without a line's end.
+    // Text without a line feed, to the stream of the problems.
     void prompt(const std::string& text);
 
 private:

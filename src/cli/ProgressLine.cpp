@@ -7,6 +7,8 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "core/WriteAll.h"
+
 namespace tarnwick {
 
 namespace {
@@ -29,11 +31,6 @@ std::string minutesAndSeconds(std::chrono::seconds elapsed) {
     const auto seconds = elapsed.count() % 60;
     return std::to_string(elapsed.count() / 60) + (seconds < 10 ? ":0" : ":") +
            std::to_string(seconds);
-}
-
-void write(int descriptor, const std::string& text) {
-    // A terminal that went away takes the line with it.
-    static_cast<void>(!::write(descriptor, text.data(), text.size()));
 }
 
 }  // namespace
@@ -107,11 +104,11 @@ void ProgressLine::drawEachSecond(const std::stop_token& stopped) {
 
 void ProgressLine::draw() {
     const auto elapsed = std::chrono::duration_cast<std::chrono::seconds>(Clock::now() - started_);
-    write(descriptor_, "\r\033[K" + progressText(progress_, elapsed, widthOf(descriptor_)));
+    writeAll(descriptor_, "\r\033[K" + progressText(progress_, elapsed, widthOf(descriptor_)));
 }
 
 void ProgressLine::erase() {
-    write(descriptor_, "\r\033[K");
+    writeAll(descriptor_, "\r\033[K");
 }
 
 }  // namespace tarnwick

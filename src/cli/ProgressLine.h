@@ -9,8 +9,8 @@
 
 namespace tarnwick {
 
-// What the line says: the label, the item with its place among all, and the time since the start.
-// Cut to the width, in columns.
+// The text of the line: the label, the item with its place among all, and the time since the start,
+// cut to the width in columns.
 struct Progress {
     std::string label;
     std::string item = {};
@@ -19,8 +19,8 @@ struct Progress {
 };
 std::string progressText(const Progress& progress, std::chrono::seconds elapsed, std::size_t width);
 
-// One line at the bottom of a terminal, drawn anew each second while something runs. Any thread;
-// its own thread draws.
+// One line at the bottom of a terminal, redrawn each second while something runs. Any thread; its
+// own thread draws.
 class ProgressLine {
 public:
     // Nothing is drawn unless the descriptor is a terminal.
@@ -31,11 +31,10 @@ public:
 
     void start(const std::string& label);
     void setItem(const std::string& item, std::size_t place, std::size_t count);
-    // Takes the line away while other text is written; it comes back within a second unless
-    // stopped.
+    // Erases the line while other text is written; it comes back within a second unless stopped.
     void without(const std::function<void()>& writeOther);
     void stop();
-    // Takes away what another process that ended early left on the line.
+    // Erases what another process that ended early left on the line.
     void eraseLeftover();
 
 private:

@@ -13,10 +13,10 @@ public:
 
     bool canAsk() const;
     // Shows the question and reads a line: "y" or "yes" presses the first other button. Anything
-    // else, the end of the input included, is a no.
+    // else, end of file included, is a no.
     bool confirm(const Alert& alert);
     bool confirm(const std::string& button);
-    // Reads a line; empty at the end of the input.
+    // Reads a line; empty at end of file.
     std::string ask(const std::string& question);
 
 private:

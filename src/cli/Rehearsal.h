@@ -1,4 +1,4 @@
-// For --dry-run: what a run would do, told instead of done.
+// For --dry-run: prints what a run would do.
 #pragma once
 
 #include "cli/Output.h"
@@ -16,19 +16,9 @@ private:
     Output& output_;
 };
 
-// Looks at the real files and changes none.
-class RehearsalFileManager : public FileManager {
+class RehearsalFileWriter : public FileWriter {
 public:
-    RehearsalFileManager(const FileManager& files, Output& output);
-
-    bool exists(std::string_view path) const override;
-    std::optional<std::vector<std::string>> list(std::string_view path) const override;
-    std::optional<std::string> readText(std::string_view path) const override;
-    std::optional<std::string> readData(std::string_view path) const override;
-    std::uint64_t fileSize(std::string_view path) const override;
-    std::optional<std::time_t> modificationTime(std::string_view path) const override;
-    std::int64_t fileSystemSize(std::string_view path) const override;
-    std::int64_t fileSystemFreeSize(std::string_view path) const override;
+    explicit RehearsalFileWriter(Output& output) : output_(output) {}
     bool remove(std::string_view path) override;
     bool copy(std::string_view from, std::string_view to) override;
     bool createDirectory(std::string_view path) override;
@@ -36,9 +26,8 @@ public:
     bool writeText(std::string_view path, std::string_view text) override;
 
 private:
-    bool tell(const std::string& change, std::string_view path);
+    bool report(const std::string& change, std::string_view path);
 
-    const FileManager& files_;
     Output& output_;
 };
 

@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
-#include <unistd.h>
 
 #include <cerrno>
 
@@ -10,10 +9,8 @@ namespace tarnwick {
 
 namespace {
 
-RunLock::State lock(int descriptor) {
-    if (descriptor < 0)
-        return RunLock::State::Unavailable;
-    if (::flock(descriptor, LOCK_EX | LOCK_NB) == 0)
+RunLock::State lock(const Descriptor& file) {
+    if (file.isOpen() && ::flock(file.number(), LOCK_EX | LOCK_NB) == 0)
         return RunLock::State::Held;
     return errno == EWOULDBLOCK ? RunLock::State::TakenByAnother : RunLock::State::Unavailable;
 }
@@ -23,10 +20,5 @@ RunLock::State lock(int descriptor) {
 RunLock::RunLock(const std::string& path)
     : descriptor_(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600)),
       state_(lock(descriptor_)) {}
-
-RunLock::~RunLock() {
-    if (descriptor_ >= 0)
-        ::close(descriptor_);
-}
 
 }  // namespace tarnwick

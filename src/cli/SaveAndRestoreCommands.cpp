@@ -9,17 +9,10 @@ namespace tarnwick {
 
 namespace {
 
-constexpr const char* everyItem = "all";
-
 using Plan = std::vector<const BackupItem*>;
 using Steps = std::vector<std::function<void()>>;
 
-std::size_t placeOf(const std::string& word, const ItemCatalogue& catalogue) {
-    const auto words = targetWords(catalogue);
-    return static_cast<std::size_t>(std::find(words.begin(), words.end(), word) - words.begin());
-}
-
-// The items that the words name, those of "all" as far as `wanted` says.
+// The items that the words name; those of "all" only if they are wanted.
 Plan planOf(const ItemCatalogue& catalogue, const std::vector<std::string>& words,
             const std::function<bool(const BackupItem&)>& wanted) {
     Plan plan;
@@ -38,82 +31,68 @@ std::vector<std::string> stagingPathsOf(const Plan& plan) {
     return paths;
 }
 
-// The steps of the words, in their order; a refused question gives the status to end with instead.
+// The steps of the words, in their order. Returns the status to end with if a question was refused.
 std::optional<ExitStatus> addRestoreSteps(Session& session, const std::vector<std::string>& words,
                                           Steps& steps) {
-    const auto actions = restoreActions(session.catalogue);
+    const NamedActions actions = session.restore().actions();
     for (const std::string& word : words) {
-        const auto action = actions[placeOf(word, session.catalogue)].run;
+        const auto& action = actions.at(actionName("restore", word, session.catalogue()));
         if (word != everyItem) {
-            steps.push_back([&session, action] { action(session.restore); });
+            steps.push_back(action);
             continue;
         }
-        action(session.restore);
-        const Alert question = session.feedback.takeQuestion().value();
+        action();
+        const Alert question = session.feedback().takeQuestion().value();
         if (const auto refused = session.refusal(question))
             return refused;
         steps.push_back(
-            [&session, question] { session.restore.alertViewClickedButtonAtIndex(question, 1); });
+            [&session, question] { session.restore().alertViewClickedButtonAtIndex(question, 1); });
     }
     return std::nullopt;
 }
 
 // What to do about an offer: as --then says, else as the person at the terminal says, else nothing.
 Offer answerTo(Session& session, Offer offer) {
-    if (session.arguments.then)
-        return *session.arguments.then;
-    if (session.arguments.dryRun || !session.questions.canAsk())
+    if (session.arguments().then)
+        return *session.arguments().then;
+    if (session.arguments().dryRun || !session.questions().canAsk())
         return Offer::None;
-    return session.questions.confirm(wordsOf(offer).buttons.front()) ? offer : Offer::None;
-}
-
-void follow(Session& session, Offer offer) {
-    if (offer == Offer::None)
-        return;
-    Alert answered;
-    answered.tag = wordsOf(offer).tag;
-    session.restore.alertViewClickedButtonAtIndex(answered, 1);
+    return session.questions().confirm(wordsOf(offer).buttons.front()) ? offer : Offer::None;
 }
 
 }  // namespace
 
-std::vector<std::string> targetWords(const ItemCatalogue& catalogue) {
-    std::vector<std::string> words = {"sources", "packages", everyItem};
-    const auto items = itemWords(catalogue);
-    words.insert(words.end(), items.begin(), items.end());
-    return words;
-}
-
 ExitStatus saveTargets(Session& session, const std::vector<std::string>& words) {
-    const Plan plan = planOf(session.catalogue, words, [](const BackupItem&) { return true; });
-    session.feedback.setPlan(plan);
-    const auto actions = backupActions(session.catalogue);
+    const Plan plan = planOf(session.catalogue(), words, [](const BackupItem&) { return true; });
+    session.feedback().setPlan(plan);
+    const NamedActions actions = session.backup().actions();
     const auto work = [&] {
-        session.backup.ensureSafeguardFolders();
+        session.backup().ensureSafeguardFolders();
         for (const std::string& word : words)
-            actions[placeOf(word, session.catalogue)].run(session.backup);
+            actions.at(actionName("save", word, session.catalogue()))();
     };
     return session.perform(work, stagingPathsOf(plan));
 }
 
 ExitStatus restoreTargets(Session& session, const std::vector<std::string>& words) {
-    session.feedback.setPlan(planOf(session.catalogue, words, [&session](const BackupItem& item) {
-        return session.files.exists(item.archivePaths.front());
-    }));
+    session.feedback().setPlan(
+        planOf(session.catalogue(), words, [&session](const BackupItem& item) {
+            return session.files().exists(item.firstArchivePath());
+        }));
     Steps steps;
     if (const auto refused = addRestoreSteps(session, words, steps))
         return *refused;
     const std::string unpackedTree(paths::unpackedTree);
     const auto work = [&] {
-        // What a killed restore left there would be taken for a part of this one's archives.
-        if (session.files.exists(unpackedTree))
-            session.files.remove(unpackedTree);
+        // What a killed restore left there would pass for a part of this one's archives.
+        if (session.files().exists(unpackedTree))
+            session.changes().remove(unpackedTree);
         for (const auto& step : steps)
             step();
     };
     return session.perform(work, {unpackedTree}, [&session](const RunReport& report) {
         if (report.offer != Offer::None)
-            follow(session, answerTo(session, report.offer));
+            session.restore().accept(answerTo(session, report.offer));
     });
 }
 

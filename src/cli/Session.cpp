@@ -14,38 +14,56 @@ Colour colourFor(int descriptor) {
     return ::isatty(descriptor) == 1 && !refused ? Colour::Coloured : Colour::Plain;
 }
 
-// Where no line is wanted: objects are for scripts, and commands that talk would write across it.
+// No line for --json, which is for scripts, nor where commands print themselves.
 int lineDescriptor(const World& world, const Arguments& arguments) {
     return arguments.json || arguments.verbose || arguments.dryRun ? -1 : world.streams.problems;
 }
 
 }  // namespace
 
-Session::Session(const World& surroundings, const Arguments& typed)
-    : world(surroundings),
-      arguments(typed),
-      output(world.streams, typed.json ? Format::Json : Format::Text,
-             colourFor(world.streams.problems)),
-      questions(world.streams, output),
-      rehearsalRunner_(output),
-      rehearsalFiles_(world.files, output),
-      line_(lineDescriptor(world, typed)),
-      runner(typed.dryRun ? rehearsalRunner_ : world.runner),
-      files(typed.dryRun ? rehearsalFiles_ : world.files),
-      feedback(output, line_,
-               typed.dryRun ? TerminalFeedback::Mode::Silent : TerminalFeedback::Mode::Telling),
-      backup(catalogue, runner, files, feedback, queues_),
-      restore(catalogue, runner, files, feedback, queues_),
-      options(catalogue, runner, files, feedback, queues_) {}
+Session::Session(const World& world, const Arguments& arguments)
+    : world_(world),
+      arguments_(arguments),
+      output_(world.streams, arguments.json ? Format::Json : Format::Text,
+              colourFor(world.streams.problems)),
+      questions_(world.streams, output_),
+      line_(lineDescriptor(world, arguments)),
+      feedback_(
+          output_, line_,
+          arguments.dryRun ? TerminalFeedback::Mode::Silent : TerminalFeedback::Mode::Talking),
+      rehearsalRunner_(output_),
+      rehearsalChanges_(output_) {
+    const OperationServices services = {.catalogue = catalogue_,
+                                        .runner = runner(),
+                                        .files = files(),
+                                        .changes = changes(),
+                                        .feedback = feedback_,
+                                        .queues = queues_};
+    backup_.emplace(services);
+    restore_.emplace(services);
+    options_.emplace(services);
+}
+
+CommandRunner& Session::runner() {
+    if (arguments_.dryRun)
+        return rehearsalRunner_;
+    return world_.runner;
+}
+
+FileWriter& Session::changes() {
+    if (arguments_.dryRun)
+        return rehearsalChanges_;
+    return world_.files;
+}
 
 std::optional<ExitStatus> Session::refusal(const Alert& question) {
-    if (arguments.yes || arguments.dryRun)
+    if (arguments_.yes || arguments_.dryRun)
         return std::nullopt;
-    if (!questions.canAsk()) {
-        output.complaint("this asks for a confirmation; without a terminal to ask on, say --yes");
+    if (!questions_.canAsk()) {
+        output_.complaint("this needs a confirmation; without a terminal, use --yes");
         return WrongUsage;
     }
-    if (questions.confirm(question))
+    if (questions_.confirm(question))
         return std::nullopt;
     return NotAllDone;
 }
@@ -54,7 +72,7 @@ std::optional<ExitStatus> Session::failureOf(SupervisedRun::End end) {
     if (end == SupervisedRun::End::Finished)
         return std::nullopt;
     const bool interrupted = end == SupervisedRun::End::Interrupted;
-    output.complaint(interrupted ? "interrupted" : "the run ended unexpectedly");
+    output_.complaint(interrupted ? "interrupted" : "the run ended unexpectedly");
     return interrupted ? Interrupted : NotAllDone;
 }
 
@@ -64,16 +82,16 @@ ExitStatus Session::perform(const std::function<void()>& work,
     const auto reportedWork = [&work, this] {
         work();
         line_.stop();
-        return feedback.report().asStatus();
+        return feedback_.report().asStatus();
     };
     const auto tidyUp = [&leftovers, this] {
         for (const std::string& leftover : leftovers)
-            files.remove(leftover);
+            changes().remove(leftover);
         line_.eraseLeftover();
     };
-    const SupervisedRun run = arguments.dryRun
+    const SupervisedRun run = arguments_.dryRun
                                   ? SupervisedRun{SupervisedRun::End::Finished, reportedWork()}
-                                  : world.supervise(reportedWork, tidyUp);
+                                  : world_.supervise(reportedWork, tidyUp);
     if (const auto failure = failureOf(run.end))
         return *failure;
     const RunReport report = RunReport::fromStatus(run.status);

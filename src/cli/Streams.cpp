@@ -3,6 +3,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include "core/Descriptor.h"
+
 namespace tarnwick {
 
 namespace {
@@ -14,18 +16,17 @@ int setApart(int descriptor) {
 }
 
 void pointAtNothing(int descriptor) {
-    const int nothing = ::open("/dev/null", O_RDWR | O_CLOEXEC);
-    if (nothing < 0)
-        return;
-    ::dup2(nothing, descriptor);
-    ::close(nothing);
+    const Descriptor nothing(::open("/dev/null", O_RDWR | O_CLOEXEC));
+    if (nothing.isOpen())
+        ::dup2(nothing.number(), descriptor);
 }
 
 }  // namespace
 
 Streams separateStreams(CommandOutput output) {
-    const Streams streams = {setApart(STDIN_FILENO), setApart(STDOUT_FILENO),
-                             setApart(STDERR_FILENO)};
+    const Streams streams = {.input = setApart(STDIN_FILENO),
+                             .results = setApart(STDOUT_FILENO),
+                             .problems = setApart(STDERR_FILENO)};
     pointAtNothing(STDIN_FILENO);
     if (output == CommandOutput::ShownWithProblems) {
         ::dup2(STDERR_FILENO, STDOUT_FILENO);

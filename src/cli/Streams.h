@@ -11,8 +11,8 @@ struct Streams {
 
 enum class CommandOutput { Discarded, ShownWithProblems };
 
-// Sets the caller's streams apart and gives commands their own: they read nothing, and what they
-// print goes where `output` says. Call once, before any command runs.
+// Moves the caller's streams out of the way of commands, which read nothing and whose output goes
+// where `output` says. Call once, before any command runs.
 Streams separateStreams(CommandOutput output);
 
 }  // namespace tarnwick

@@ -28,7 +28,7 @@ public:
             ::sigaddset(&awaited_, signal);
         ::sigaddset(&awaited_, SIGTSTP);
         ::sigaddset(&awaited_, SIGCHLD);
-        // Whoever started us to outlive the terminal said so by ignoring the hang-up.
+        // An ignored hang-up means that the run is to outlive its terminal.
         struct sigaction hangUp = {};
         if (::sigaction(SIGHUP, nullptr, &hangUp) == 0 && hangUp.sa_handler != SIG_IGN)
             ::sigaddset(&awaited_, SIGHUP);
@@ -45,7 +45,7 @@ private:
     sigset_t before_ = {};
 };
 
-// The supervisor vanished without a word: nothing may go on without it.
+// The supervisor was killed: nothing may go on without it.
 void endWithCommands(int) {
     std::signal(SIGTERM, SIG_DFL);
     ::kill(0, SIGTERM);
@@ -53,21 +53,20 @@ void endWithCommands(int) {
 
 [[noreturn]] void becomeWorker(const AwaitedSignals& signals, pid_t supervisor,
                                const std::function<int()>& work) {
-    // A session without a terminal: a command that would ask there for a password fails instead.
+    // Without a terminal, a command that would ask for a password fails instead.
     ::setsid();
     std::signal(SIGTERM, endWithCommands);
     ::prctl(PR_SET_PDEATHSIG, SIGTERM);
     if (::getppid() != supervisor)
         ::_exit(1);
-    // A shell hands ignored signals on to what it starts in the background; commands must heed
-    // theirs.
+    // A shell makes background jobs ignore these; commands must not.
     std::signal(SIGINT, SIG_DFL);
     std::signal(SIGQUIT, SIG_DFL);
     signals.restore();
     ::_exit(work());
 }
 
-// As the terminal asks; where there is no shell to wake us again, the kernel does not stop us.
+// In an orphaned group, which no shell could continue, the kernel ignores the SIGTSTP.
 void suspendWith(pid_t group) {
     sigset_t suspension = {};
     ::sigemptyset(&suspension);
@@ -79,7 +78,7 @@ void suspendWith(pid_t group) {
     ::kill(-group, SIGCONT);
 }
 
-// Collects what has ended; true once nothing of the group is left.
+// Reaps what has ended; true once nothing of the group is left.
 bool isGone(pid_t group) {
     while (::waitpid(-1, nullptr, WNOHANG) > 0) {
     }
@@ -107,7 +106,7 @@ void endAll(const AwaitedSignals& signals, pid_t worker) {
     }
 }
 
-// Waits for the work's end or for a signal that ends it.
+// Waits for the end of the work or for a signal to end it.
 SupervisedRun watch(const AwaitedSignals& signals, pid_t worker) {
     for (;;) {
         const int signal = signals.next();

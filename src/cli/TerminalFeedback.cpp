@@ -41,7 +41,7 @@ void TerminalFeedback::setPlan(std::vector<const BackupItem*> plan) {
 }
 
 void TerminalFeedback::showHud(std::string_view label) {
-    if (mode_ == Mode::Telling)
+    if (mode_ == Mode::Talking)
         line_.start(std::string(label));
 }
 

@@ -9,7 +9,7 @@
 
 namespace tarnwick {
 
-// What a run told, small enough to be the exit status of the process that did the work.
+// The outcome of a run, which fits into the exit status of the process that did the work.
 class RunReport {
 public:
     static RunReport fromStatus(int status);
@@ -24,8 +24,8 @@ public:
 // output. A question is kept, for the caller to ask.
 class TerminalFeedback : public Feedback {
 public:
-    // A silent one has questions and offers but no results: a rehearsal.
-    enum class Mode { Telling, Silent };
+    // A silent one, for a rehearsal, has questions and offers but no results.
+    enum class Mode { Talking, Silent };
 
     TerminalFeedback(Output& output, ProgressLine& line, Mode mode);
 
@@ -37,10 +37,10 @@ public:
     void show(const Alert& alert) override;
     void working(const BackupItem& item) override;
 
-    // A problem that no alert told.
+    // A problem without an alert.
     void noteProblem() { report_.hasProblem = true; }
     const RunReport& report() const { return report_; }
-    // The question shown last; none if there was none since the last call.
+    // The question shown since the last call; null if there was none.
     std::optional<Alert> takeQuestion();
 
 private:

@@ -2,13 +2,23 @@
 
 #include <algorithm>
 
+#include "core/Characters.h"
+
 namespace tarnwick {
 
 namespace {
 
-// Of the C locale: keys are plain ASCII.
-bool isCapital(char character) {
-    return character >= 'A' && character <= 'Z';
+struct Target {
+    std::string word;
+    std::string name;  // as a part of an action's name
+};
+
+std::vector<Target> targetsOf(const ItemCatalogue& catalogue) {
+    std::vector<Target> targets = {
+        {"sources", "Sources"}, {"packages", "Packages"}, {everyItem, "AllInOne"}};
+    for (const BackupItem& item : catalogue)
+        targets.push_back({kebabCase(item.key), item.key});
+    return targets;
 }
 
 }  // namespace
@@ -18,7 +28,7 @@ std::string kebabCase(const std::string& key) {
     for (const char character : key) {
         if (isCapital(character) && !word.empty())
             word += '-';
-        word += isCapital(character) ? static_cast<char>(character - 'A' + 'a') : character;
+        word += lowerCase(character);
     }
     return word;
 }
@@ -31,10 +41,22 @@ std::vector<std::string> itemWords(const ItemCatalogue& catalogue) {
 }
 
 const BackupItem* itemOfWord(const ItemCatalogue& catalogue, const std::string& word) {
-    const auto found =
-        std::find_if(catalogue.begin(), catalogue.end(),
-                     [&word](const BackupItem& item) { return kebabCase(item.key) == word; });
+    const auto found = std::ranges::find_if(
+        catalogue, [&word](const BackupItem& item) { return kebabCase(item.key) == word; });
     return found == catalogue.end() ? nullptr : &*found;
+}
+
+std::vector<std::string> targetWords(const ItemCatalogue& catalogue) {
+    std::vector<std::string> words;
+    for (const Target& target : targetsOf(catalogue))
+        words.push_back(target.word);
+    return words;
+}
+
+std::string actionName(const std::string& verb, const std::string& target,
+                       const ItemCatalogue& catalogue) {
+    const auto targets = targetsOf(catalogue);
+    return verb + std::ranges::find(targets, target, &Target::word)->name;
 }
 
 }  // namespace tarnwick

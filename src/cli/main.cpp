@@ -1,7 +1,7 @@
 #include <unistd.h>
 
 #include "cli/CommandLine.h"
-#include "core/CommandSurroundings.h"
+#include "core/CommandEnvironment.h"
 #include "core/SystemCommandRunner.h"
 #include "core/SystemFileManager.h"
 #include "mail/Transport.h"

@@ -1,15 +1,16 @@
 #pragma once
 
 #include <cstddef>
+#include <iterator>
 #include <span>
 #include <string>
 #include <vector>
 
 namespace tarnwick {
 
-// What an alert tells, for those who have no screen to show it on.
+// What an alert is about, for those who have no screen to show it on.
 enum class AlertKind {
-    Result,    // something was done; it may offer a follow-up
+    Result,    // something was done; may offer a follow-up
     Problem,   // a backup or an archive is missing
     Question,  // nothing happens until it is answered
 };
@@ -24,26 +25,37 @@ struct Alert {
     AlertKind kind = AlertKind::Result;
 };
 
+inline constexpr int anyOtherButton = -1;
+
 // One row of the table that says what a pressed button does.
 template <class Owner>
 struct AlertAction {
     int tag;
-    int firstIndex;
-    int lastIndex;
-    void (Owner::*action)(int buttonIndex);
+    int buttonIndex;  // or any but the cancel button's
+    void (*perform)(Owner& owner, int buttonIndex);
 };
 
-// Does what the table says for the pressed button. The first row of the tag that holds the index
-// counts; an alert or a button that the table does not know does nothing.
+// Does what the first matching row says; nothing if there is none.
 template <class Owner>
 void performAlertAction(std::span<const AlertAction<Owner>> table, Owner& owner, const Alert& alert,
                         int buttonIndex) {
     for (const auto& row : table) {
-        if (row.tag != alert.tag || buttonIndex < row.firstIndex || buttonIndex > row.lastIndex)
+        const bool isButton = row.buttonIndex == buttonIndex ||
+                              (row.buttonIndex == anyOtherButton && buttonIndex > 0);
+        if (row.tag != alert.tag || !isButton)
             continue;
-        (owner.*row.action)(buttonIndex);
+        row.perform(owner, buttonIndex);
         return;
     }
+}
+
+// The choice behind a button, where the choices are the other buttons in their order; null if there
+// is no such button.
+template <class Choices>
+auto chosenFrom(const Choices& choices, int buttonIndex) {
+    const bool isChoice =
+        buttonIndex > 0 && static_cast<std::size_t>(buttonIndex) <= choices.size();
+    return isChoice ? &*std::next(choices.begin(), buttonIndex - 1) : nullptr;
 }
 
 }  // namespace tarnwick

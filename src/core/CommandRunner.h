@@ -4,14 +4,13 @@
 
 namespace tarnwick {
 
-// Runs one fixed command line to its end. A seam, so that tests can record lines instead of running
-// them.
+// Runs one fixed command line and waits for it. A seam, so that tests can record lines instead.
 class CommandRunner {
 public:
     virtual ~CommandRunner() = default;
 
-    // Returns the status of the shell, as the standard library's `system` gives it. Operations do
-    // not look at it: what counts is whether the expected file is there afterwards. Any thread.
+    // Returns the shell's status as the standard library's `system` does. Operations ignore it:
+    // what counts is whether the expected file exists afterwards. Any thread.
     virtual int run(const std::string& line) = 0;
 };
 

@@ -2,24 +2,29 @@
 
 #include <unistd.h>
 
+#include <cerrno>
+
 namespace tarnwick {
 
-// An open file, closed with it; or none, where opening failed and the number is below 0.
+// Owns an open file and closes it; errno stays as it was. Below 0 the number stands for a file that
+// could not be opened.
 class Descriptor {
 public:
     explicit Descriptor(int number) : number_(number) {}
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
     ~Descriptor() {
+        const int error = errno;
         if (isOpen())
             ::close(number_);
+        errno = error;
     }
 
     bool isOpen() const { return number_ >= 0; }
     int number() const { return number_; }
 
 private:
-    int number_;
+    const int number_;
 };
 
 }  // namespace tarnwick

@@ -9,42 +9,48 @@
 
 namespace tarnwick {
 
-// The few file calls that operations make. Nothing throws and nothing is reported: a call answers
-// yes or no, and most callers do not ask. Any thread. A seam, so that tests can give it another
-// root or let it fail.
-class FileManager {
+// The file calls that operations make. Nothing throws and no reason is reported: most callers do
+// not even look at the result. Any thread. Seams, so that tests can use another root or inject
+// faults, and a rehearsal can read without writing.
+class FileReader {
 public:
-    virtual ~FileManager() = default;
+    virtual ~FileReader() = default;
 
-    // Follows links: a dangling one does not exist. Says nothing of the kind of thing that is
-    // there.
+    // Follows links: a dangling one does not exist. Any kind of file counts.
     virtual bool exists(std::string_view path) const = 0;
-    // The names in a folder, in the file system's own order; none if it cannot be listed.
+    // The names in a folder, in the file system's own order; null if it cannot be listed.
     virtual std::optional<std::vector<std::string>> list(std::string_view path) const = 0;
-    // The whole text of a file; none unless it can be read and is valid UTF-8.
+    // The whole text of a file; null unless it can be read and is valid UTF-8.
     virtual std::optional<std::string> readText(std::string_view path) const = 0;
-    // The whole content of a file, whatever it is; none if it cannot be read.
+    // The whole content of a file; null if it cannot be read.
     virtual std::optional<std::string> readData(std::string_view path) const = 0;
-    // Bytes; 0 if the file cannot be looked at.
+    // Bytes; 0 if the file is not accessible.
     virtual std::uint64_t fileSize(std::string_view path) const = 0;
-    // When the file was last changed; none if it cannot be looked at.
+    // Null if the file is not accessible.
     virtual std::optional<std::time_t> modificationTime(std::string_view path) const = 0;
-    // Bytes of the file system that holds the path; 0 if it cannot be asked. Free means free to
-    // users.
+    // Bytes of the file system that holds the path; 0 if it does not answer. Free means available
+    // to users.
     virtual std::int64_t fileSystemSize(std::string_view path) const = 0;
     virtual std::int64_t fileSystemFreeSize(std::string_view path) const = 0;
+};
 
-    // Takes a folder with all that is in it. A failure may leave a part of it. Links are not
+class FileWriter {
+public:
+    virtual ~FileWriter() = default;
+
+    // Removes a folder with all its contents. A failure may leave a part of it. Links are not
     // followed.
     virtual bool remove(std::string_view path) = 0;
     // Fails, with nothing changed, when the target exists.
     virtual bool copy(std::string_view from, std::string_view to) = 0;
-    // Makes the folders between as well. A folder that is there is no failure.
+    // Creates missing parents too. An existing folder is not an error.
     virtual bool createDirectory(std::string_view path) = 0;
-    // Makes an empty file, or empties the one that is there.
+    // Creates an empty file, or empties an existing one.
     virtual bool createFile(std::string_view path) = 0;
-    // Writes a file beside the target and renames it over: after a failure the old text stands.
+    // Replaces the file at once: after a failure the old text is still there.
     virtual bool writeText(std::string_view path, std::string_view text) = 0;
 };
+
+class FileManager : public FileReader, public FileWriter {};
 
 }  // namespace tarnwick

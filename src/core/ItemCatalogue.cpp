@@ -8,24 +8,24 @@ namespace tarnwick {
 
 namespace {
 
-// A folder of a data set, and what sets it apart from the rule.
+// A folder of a data set. What is not set follows the rule.
 struct Folder {
     std::string source;
     std::string errorNoun;
-    // The folder, slash at its end, that `cp -R` puts the staging copy into.
+    // Where `cp -R` puts the staging copy; ends with a slash.
     std::string stagingParent = std::string(paths::archiveFolder) + "/";
-    // Taken out of every copy before it is zipped.
+    // Removed from every copy before it is zipped.
     std::string excluded = {};
-    // Where the unpacked archive is copied back from, if not from below its staging path.
+    // Where a restore copies the folder back from.
     std::string unpackedSource = {};
-    // The staging parent that the single save names, if another.
+    // The staging parent as the single save spells it.
     std::string singleSaveParent = {};
 };
 
 struct Description {
     std::string key;
     std::vector<Folder> folders;
-    std::string noun;  // in every text, unless another is given
+    std::string noun;  // for all texts that have no noun of their own
     std::string restoreNoun = noun;
     std::string sizeButtonTitle = noun;
     std::string sizeResultName = sizeButtonTitle;
@@ -38,7 +38,7 @@ Folder libraryFolder(const std::string& name, const std::string& errorNoun) {
     return {.source = "/var/mobile/Library/" + name, .errorNoun = errorNoun};
 }
 
-// Staged outside of the safeguard folder, which lies inside the folder that is saved.
+// Staged outside the safeguard folder, which lies inside the folder to save.
 Folder preferencesFolder() {
     Folder folder = libraryFolder("Preferences", "Preferences");
     folder.stagingParent = paths::scratchFolder;
@@ -47,14 +47,14 @@ Folder preferencesFolder() {
     return folder;
 }
 
-// The restore looks below the live folder's own path, where no archive of ours holds it.
+// The restore looks for the live folder's path, which no archive of ours contains.
 Folder callHistoryFolder() {
     return {.source = "/var/wireless/Library/CallHistory",
             .errorNoun = "Call History",
             .unpackedSource = "/var/tmp/var/wireless/Library/CallHistory"};
 }
 
-// The single save counts on the process standing in "/".
+// The single save relies on "/" being the working directory.
 Folder springBoardFolder() {
     Folder folder = libraryFolder("SpringBoard", "SpringBoard");
     folder.singleSaveParent = folder.stagingParent.substr(1);
@@ -136,7 +136,7 @@ std::string archiveOf(const Folder& folder) {
     return std::string(paths::archiveFolder) + "/" + nameOf(folder) + ".zip";
 }
 
-// Copies the folder into the parent and zips the copy.
+// The lines that copy the folder into the parent and zip the copy.
 std::vector<std::string> archiving(const Folder& folder, const std::string& copyTarget,
                                    const std::string& stagingParent, const std::string& archive) {
     const std::string staging = stagingParent + nameOf(folder);
@@ -169,10 +169,10 @@ void addSaving(BackupItem& item, const Folder& folder) {
     const std::string& single = folder.singleSaveParent.empty() ? parent : folder.singleSaveParent;
     item.sourcePaths.push_back(folder.source);
     item.stagingPaths.push_back(stagingOf(folder));
-    item.archivePaths.push_back(archiveOf(folder));
-    item.errorTitles.push_back(folder.errorNoun + " Backup Error");
-    item.errorMessages.push_back("There was an error during the " + folder.errorNoun +
-                                 " backup. Nothing has been done. Please try again !");
+    item.archives.push_back({.path = archiveOf(folder),
+                             .errorTitle = folder.errorNoun + " Backup Error",
+                             .errorMessage = "There was an error during the " + folder.errorNoun +
+                                             " backup. Nothing has been done. Please try again !"});
     append(item.saveCommands, archiving(folder, single, parent, archiveOf(folder)));
     append(item.allInOneSaveCommands, archiving(folder, parent, parent, archiveOf(folder)));
 }
@@ -206,6 +206,13 @@ BackupItem itemFrom(const Description& description) {
 }
 
 }  // namespace
+
+std::vector<std::string> BackupItem::archivePaths() const {
+    std::vector<std::string> paths;
+    for (const BackupArchive& archive : archives)
+        paths.push_back(archive.path);
+    return paths;
+}
 
 ItemCatalogue::ItemCatalogue() {
     for (const Description& description : descriptions())

@@ -40,7 +40,7 @@ std::optional<std::string> readAll(int descriptor) {
     }
 }
 
-// The mode that a replaced file hands on; a new one may be read by all.
+// A replaced file keeps its mode; everybody may read a new one.
 mode_t modeFor(const std::string& target) {
     const auto status = statusOf(target);
     return status ? status->st_mode & 07777 : 0644;
@@ -84,7 +84,7 @@ std::optional<std::string> SystemFileManager::readText(std::string_view path) co
 }
 
 std::optional<std::string> SystemFileManager::readData(std::string_view path) const {
-    // Not blocking: whatever stands at the path, a named pipe included, must not hold the run up.
+    // Non-blocking, as a named pipe at the path must not hold up the run.
     const Descriptor file(::open(placed(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (!file.isOpen())
         return std::nullopt;

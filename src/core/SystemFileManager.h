@@ -6,7 +6,7 @@
 
 namespace tarnwick {
 
-// The file manager of the device. With a root, every path is taken below that folder.
+// The files of the device. With a root, every path is below that folder.
 class SystemFileManager : public FileManager {
 public:
     explicit SystemFileManager(std::string root = {});

@@ -4,8 +4,8 @@
 
 namespace tarnwick {
 
-// The log of the system, under the program's name. Where standard error is a terminal the lines are
-// shown there as well. Make one at a time.
+// The system's log, under the program's name; also shown on standard error if that is a terminal.
+// One at a time.
 class SystemLog : public Log {
 public:
     SystemLog();

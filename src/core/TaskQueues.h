@@ -4,9 +4,8 @@
 
 namespace tarnwick {
 
-// Where the steps of a task run. A seam: a window has threads, the terminal runs everything in
-// place, and tests step through every order that is possible. What a task refers to must outlive
-// it.
+// Where the steps of a task run. A seam: a window has threads, a terminal runs everything in place,
+// and tests step through every possible order. What a task refers to must outlive it.
 class TaskQueues {
 public:
     using Task = std::function<void()>;
@@ -15,7 +14,7 @@ public:
 
     // A new background thread for each call.
     virtual void runInBackground(Task task) = 0;
-    // Returns when the main thread has done it.
+    // Returns when the main thread has run it.
     virtual void performOnMainThreadAndWait(Task task) = 0;
     // The global queue of high priority.
     virtual void dispatchToGlobalQueue(Task task) = 0;

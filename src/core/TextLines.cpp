@@ -4,6 +4,8 @@
 #include <iterator>
 #include <unordered_set>
 
+#include "core/JoinedText.h"
+
 namespace tarnwick {
 
 namespace {
@@ -16,7 +18,7 @@ bool isContinuation(unsigned byte) {
     return (byte & 0xC0U) == 0x80U;
 }
 
-// What the first byte of a character says: how many bytes it has, and the range of its second one.
+// What the first byte of a character tells: its length in bytes, and the range of the second one.
 struct Lead {
     std::size_t length;
     unsigned lowest = 0x80;
@@ -92,13 +94,7 @@ Lines splitLines(const std::optional<std::string>& text) {
 }
 
 std::string joinLines(const Lines& lines) {
-    std::string text;
-    for (std::size_t index = 0; index < lines.size(); ++index) {
-        if (index > 0)
-            text += '\n';
-        text += lines[index];
-    }
-    return text;
+    return joined(lines, "\n");
 }
 
 Lines linesWithout(const Lines& lines, const Lines& others) {

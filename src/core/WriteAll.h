@@ -4,7 +4,8 @@
 
 namespace tarnwick {
 
-// Writes the text to the open file; false, with errno set, if only a part of it could be written.
-bool writeAll(int file, std::string_view text);
+// Writes the whole text to the descriptor, waiting for a slow reader. Returns false, with errno
+// set, if only a part of it could be written.
+bool writeAll(int descriptor, std::string_view text);
 
 }  // namespace tarnwick

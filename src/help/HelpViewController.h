@@ -1,30 +1,27 @@
 #pragma once
 
-#include "platform/controllers/NavigationBar.h"
-#include "platform/controllers/Outlet.h"
-#include "platform/controllers/ViewController.h"
+#include "screens/FrontScreen.h"
 
 namespace tarnwick {
 
 // The Help screen: static text.
-class HelpViewController : public ViewController {
-    Q_OBJECT
-
+class HelpViewController : public FrontScreen {
 public:
-    Outlet<BarButtonItem> sidebarButton{this, "sidebarButton"};
-    Outlet<QQuickItem> contentView{this, "contentView"};
-    Outlet<QQuickItem> mainHelp{this, "mainHelp"};
-    Outlet<QQuickItem> questionUntether{this, "questionUntether"};
-    Outlet<QQuickItem> replyUntether{this, "replyUntether"};
-    Outlet<QQuickItem> questionMajorIosUpdate{this, "questionMajorIosUpdate"};
-    Outlet<QQuickItem> replyMAjorIosUpdate{this, "replyMAjorIosUpdate"};
-    Outlet<QQuickItem> questionTime{this, "questionTime"};
-    Outlet<QQuickItem> replyTime{this, "replyTime"};
-    Outlet<QQuickItem> questionCydia{this, "questionCydia"};
-    Outlet<QQuickItem> replyCydia{this, "replyCydia"};
+    StyledOutlet mainHelp{this, "mainHelp", fillWithHelpText};
+    StyledOutlet questionUntether{this, "questionUntether", fillWithHelpText};
+    StyledOutlet replyUntether{this, "replyUntether", fillWithHelpText};
+    StyledOutlet questionMajorIosUpdate{this, "questionMajorIosUpdate", fillWithHelpText};
+    StyledOutlet replyMAjorIosUpdate{this, "replyMAjorIosUpdate", fillWithHelpText};
+    StyledOutlet questionTime{this, "questionTime", fillWithHelpText};
+    StyledOutlet replyTime{this, "replyTime", fillWithHelpText};
+    StyledOutlet questionCydia{this, "questionCydia", fillWithHelpText};
+    StyledOutlet replyCydia{this, "replyCydia", fillWithHelpText};
 
 protected:
     void viewDidLoad() override;
+
+private:
+    static void fillWithHelpText(QQuickItem* label);
 };
 
 }  // namespace tarnwick

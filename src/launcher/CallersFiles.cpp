@@ -17,7 +17,7 @@ namespace {
 const std::string ownFolder = "/run/tarnwick";
 constexpr off_t longestKey = 65536;  // bytes
 
-// Files are looked at as the caller while it lives.
+// While it exists, files are opened with the rights of the caller.
 class AsCaller {
 public:
     AsCaller() {
@@ -38,13 +38,13 @@ bool belongsTo(uid_t user, const std::string& folder) {
            status.st_uid == user;
 }
 
-// It is in a folder that only root can change.
+// Its parent can be changed by root only.
 bool makeOwnFolder() {
     ::mkdir(ownFolder.c_str(), S_IRWXU);
     return belongsTo(0, ownFolder);
 }
 
-// None unless it is a plain file, and of the size of a key.
+// Null unless it is a regular file of at most the size of a key.
 std::optional<std::string> contentForCaller(const std::string& path) {
     const AsCaller caller;
     const Descriptor file(
@@ -58,7 +58,7 @@ std::optional<std::string> contentForCaller(const std::string& path) {
     return length == status.st_size ? std::optional(content) : std::nullopt;
 }
 
-// Whoever reads the file meanwhile gets the old one or the new one. Leaves the old one if it fails.
+// Replaces the file at once; after a failure the old one is still there.
 bool write(const std::string& path, const std::string& content) {
     std::string unfinished = path + ".XXXXXX";
     const Descriptor file(::mkostemp(unfinished.data(), O_CLOEXEC));

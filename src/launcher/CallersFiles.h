@@ -4,10 +4,10 @@
 
 namespace tarnwick {
 
-// Replaces the paths of an environment that lead into the caller's folders: what is taken from
-// there is taken with the caller's own rights, and root's program is given a folder of its own.
-// The display's key becomes a copy of it, the Wayland display a full path if the runtime folder is
-// the caller's; what cannot be had is left out. For a set-user-ID process with one thread.
+// Replaces the paths in an environment that lead into the caller's folders. The display's key is
+// copied with the caller's own rights; the Wayland display becomes a full path if the runtime
+// folder is the caller's; the program gets a runtime folder of its own. What is not available is
+// left out. For a set-user-ID process with one thread.
 void replaceCallersFiles(Environment& environment);
 
 }  // namespace tarnwick

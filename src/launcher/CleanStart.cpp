@@ -11,7 +11,9 @@
 #include <csignal>
 #include <string_view>
 
-#include "core/CommandSurroundings.h"
+#include "core/Characters.h"
+#include "core/CommandEnvironment.h"
+#include "core/StartToken.h"
 
 namespace tarnwick {
 
@@ -19,22 +21,9 @@ namespace {
 
 constexpr std::size_t longestValue = 1024;  // bytes; real ones are far shorter
 
-bool isLetterOrDigit(char character) {
-    return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z') ||
-           (character >= '0' && character <= '9');
-}
-
-// Letters, digits and the marks; at least one of them.
-bool consistsOf(std::string_view text, std::string_view marks) {
-    return !text.empty() && std::ranges::all_of(text, [marks](char character) {
-        return isLetterOrDigit(character) || marks.find(character) != std::string_view::npos;
-    });
-}
-
 bool isNumber(std::string_view text) {
     constexpr std::size_t mostDigits = 5;
-    return !text.empty() && text.size() <= mostDigits &&
-           text.find_first_not_of("0123456789") == std::string_view::npos;
+    return !text.empty() && text.size() <= mostDigits && std::ranges::all_of(text, isDigit);
 }
 
 bool isFolderOrFile(std::string_view text) {
@@ -60,7 +49,7 @@ bool isWaylandDisplay(std::string_view text) {
     return consistsOf(text, "._-") && !text.starts_with('.');
 }
 
-// A socket; other kinds of address start programs.
+// A socket only, as other kinds of address can start programs.
 bool isBusAddress(std::string_view text) {
     constexpr std::string_view path = "unix:path=";
     constexpr std::string_view abstractName = "unix:abstract=";
@@ -75,11 +64,6 @@ bool isBusAddress(std::string_view text) {
 
 bool isLanguage(std::string_view text) {
     return consistsOf(text, "._@-") && !text.starts_with('.');
-}
-
-// What a desktop hands to what it starts, so that a window may come to the front.
-bool isStartToken(std::string_view text) {
-    return consistsOf(text, "._:/+=@ -");
 }
 
 struct Rule {
@@ -129,7 +113,7 @@ struct Limit {
     rlim_t value;
 };
 
-// What systems usually give.
+// The usual defaults of a system.
 constexpr Limit limits[] = {
     {RLIMIT_CPU, RLIM_INFINITY},
     {RLIMIT_FSIZE, RLIM_INFINITY},
@@ -140,7 +124,7 @@ constexpr Limit limits[] = {
     {RLIMIT_CORE, 0},
 };
 
-// Where the value cannot be had, as much as there may be.
+// Without the right to raise the hard limit, as much as it allows.
 void set(const Limit& limit) {
     rlimit values = {.rlim_cur = limit.value, .rlim_max = limit.value};
     if (::setrlimit(limit.resource, &values) == 0 || ::getrlimit(limit.resource, &values) != 0)
@@ -166,7 +150,7 @@ Environment cleanEnvironment(const std::vector<std::string>& environment) {
 }
 
 void cleanProcess() {
-    // What commands ask is never answered by the caller: some of them offer a shell.
+    // Commands must not ask the caller: some of them offer a shell.
     ::close(STDIN_FILENO);
     fillStandardDescriptors();
     ::closefrom(STDERR_FILENO + 1);

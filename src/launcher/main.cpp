@@ -1,4 +1,4 @@
-// Starts the window program with the rights of root for whoever calls it.
+// Starts the window program with root's rights, whoever the caller is.
 #include <unistd.h>
 
 #include <algorithm>
@@ -11,7 +11,7 @@ using namespace tarnwick;
 
 namespace {
 
-// Its name is what ends it.
+// The name that killall looks for.
 const char program[] = TARNWICK_PROGRAM;
 const char programName[] = "RootTarnwick2";
 
@@ -29,7 +29,7 @@ std::vector<std::string> linesOf(const Environment& environment) {
     return lines;
 }
 
-// As exec wants it. The texts must outlive it.
+// The form that exec takes. The texts must outlive it.
 std::vector<char*> pointersTo(std::vector<std::string>& texts) {
     std::vector<char*> pointers;
     for (std::string& text : texts)
@@ -42,7 +42,7 @@ std::vector<char*> pointersTo(std::vector<std::string>& texts) {
 
 int main(int count, char** values) {
     std::vector<std::string> environment = ownEnvironment();
-    // Whoever has these rights anyway may set what they like.
+    // A caller who is root already may set anything.
     if (::getuid() != ::geteuid()) {
         Environment clean = cleanEnvironment(environment);
         cleanProcess();

@@ -1,9 +1,6 @@
 #include "mail/CloudViewController.h"
 
 #include "mail/MailMessage.h"
-#include "platform/motion/Frames.h"
-#include "screens/ScreenStyle.h"
-#include "ui/reveal/RevealSegues.h"
 
 namespace tarnwick {
 
@@ -16,17 +13,15 @@ QByteArray bytesOf(const std::optional<std::string>& data) {
 
 }  // namespace
 
-CloudViewController::CloudViewController(const FileManager& files, Mailer& mailer, Log& log)
+CloudViewController::CloudViewController(const FileReader& files, Mailer& mailer, Log& log)
     : files_(files), mailer_(mailer), log_(log) {
     addAction("sendBackup", [this](QQuickItem* sender) { sendBackup(sender); });
 }
 
 void CloudViewController::viewDidLoad() {
-    ViewController::viewDidLoad();
+    FrontScreen::viewDidLoad();
     setTitle("Cloud");
-    styleButton(sendBackupButton.get());
-    pinToWidth(contentView.get(), view());
-    wireToRevealContainer(*this, *sidebarButton.get());
+    completeView();
 }
 
 void CloudViewController::sendBackup(QQuickItem*) {

@@ -2,25 +2,20 @@
 
 #include "core/FileManager.h"
 #include "core/Log.h"
-#include "platform/controllers/NavigationBar.h"
-#include "platform/controllers/Outlet.h"
-#include "platform/controllers/ViewController.h"
 #include "platform/mail/MailComposeViewController.h"
+#include "screens/FrontScreen.h"
+#include "screens/ScreenStyle.h"
 
 namespace tarnwick {
 
-// The screen that mails the saved list of installed packages. What becomes of a mail is told in the
-// log only. Main thread.
-class CloudViewController : public ViewController, public MailComposeViewControllerDelegate {
-    Q_OBJECT
-
+// The screen that mails the saved list of installed packages. Only the log tells what becomes of a
+// mail. Main thread.
+class CloudViewController : public FrontScreen, public MailComposeViewControllerDelegate {
 public:
     // All three must outlive the controller.
-    CloudViewController(const FileManager& files, Mailer& mailer, Log& log);
+    CloudViewController(const FileReader& files, Mailer& mailer, Log& log);
 
-    Outlet<BarButtonItem> sidebarButton{this, "sidebarButton"};
-    Outlet<QQuickItem> contentView{this, "contentView"};
-    Outlet<QQuickItem> sendBackupButton{this, "sendBackupButton"};
+    StyledOutlet sendBackupButton{this, "sendBackupButton", styleButton};
 
     // Composes the mail, whether or not there is a list, and presents it.
     void sendBackup(QQuickItem* sender);
@@ -33,7 +28,7 @@ protected:
     void viewDidLoad() override;
 
 private:
-    const FileManager& files_;
+    const FileReader& files_;
     Mailer& mailer_;
     Log& log_;
 };

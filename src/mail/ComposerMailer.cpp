@@ -33,6 +33,13 @@ MailMessage asMessage(const ComposedMail& mail) {
 ComposerMailer::ComposerMailer(TaskQueues& queues, std::string program, DraftPlace drafts)
     : queues_(queues), program_(std::move(program)), drafts_(std::move(drafts)) {}
 
+QStringList ComposerMailer::recipientsIn(const QString& text) const {
+    QStringList recipients;
+    for (const std::string& recipient : tarnwick::recipientsIn(text.toStdString()))
+        recipients.append(QString::fromStdString(recipient));
+    return recipients;
+}
+
 bool ComposerMailer::isRecipient(const QString& text) const {
     return isWellFormedRecipient(text.toStdString());
 }

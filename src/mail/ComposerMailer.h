@@ -9,13 +9,14 @@
 
 namespace tarnwick {
 
-// Sends what was composed with the system's mailer and keeps drafts in the owner's folder, in the
-// background. The queues must outlive it.
+// Sends mails with the system's mailer and keeps drafts in the owner's folder, in the background.
+// The queues must outlive it.
 class ComposerMailer : public Mailer {
 public:
     explicit ComposerMailer(TaskQueues& queues, std::string program = systemMailer,
                             DraftPlace drafts = {});
 
+    QStringList recipientsIn(const QString& text) const override;
     bool isRecipient(const QString& text) const override;
     void send(const ComposedMail& mail, Answer whenDone) override;
     void keepDraft(const ComposedMail& mail, Answer whenDone) override;

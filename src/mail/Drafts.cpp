@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <cstring>
 
+#include "core/Descriptor.h"
 #include "core/WriteAll.h"
 
 namespace tarnwick {
@@ -18,11 +19,11 @@ namespace {
 constexpr mode_t onlyOwnersFolder = 0700;
 constexpr mode_t onlyOwnersFile = 0600;
 
-// Of a message that is no more than written.
+// Of a message that was not sent.
 constexpr const char* draftFlag = ":2,D";
 
-// Lets this thread use files with the rights of another user while it lives. Without root, rights
-// stay as they are.
+// While it exists, this thread uses files with the rights of another user. Has no effect without
+// root.
 class RightsOf {
 public:
     explicit RightsOf(const struct stat& owned)
@@ -61,7 +62,7 @@ bool makeMailFolder(const std::string& folder) {
     return true;
 }
 
-// No two messages of any program and machine share it.
+// Unique among all programs and machines.
 std::string uniqueName(std::time_t now) {
     static std::atomic<unsigned> count = 0;
     char host[256] = {};
@@ -71,14 +72,9 @@ std::string uniqueName(std::time_t now) {
 }
 
 bool writeNewFile(const std::string& path, const std::string& text) {
-    const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, onlyOwnersFile);
-    if (file < 0)
-        return false;
-    const bool written = writeAll(file, text) && ::fsync(file) == 0;
-    const int error = errno;
-    ::close(file);
-    errno = error;
-    return written;
+    const Descriptor file(
+        ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, onlyOwnersFile));
+    return file.isOpen() && writeAll(file.number(), text) && ::fsync(file.number()) == 0;
 }
 
 std::string notKept(const std::string& folder) {

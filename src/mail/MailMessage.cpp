@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/Characters.h"
 #include "core/SafeguardPaths.h"
 
 namespace tarnwick {
@@ -11,18 +12,6 @@ namespace {
 // The lengths that mail servers must take.
 constexpr std::size_t longestLocalPart = 64;
 constexpr std::size_t longestRecipient = 254;
-
-// Of the C locale: nothing else may stand in a bare address.
-bool isLetterOrDigit(char character) {
-    return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z') ||
-           (character >= '0' && character <= '9');
-}
-
-bool consistsOf(std::string_view text, std::string_view signs) {
-    return std::all_of(text.begin(), text.end(), [signs](char character) {
-        return isLetterOrDigit(character) || signs.find(character) != std::string_view::npos;
-    });
-}
 
 // Words with single dots between.
 bool isDotted(std::string_view text) {
@@ -53,7 +42,7 @@ std::optional<std::string> lineBreakIn(const char* what, std::string_view text) 
 
 }  // namespace
 
-MailMessage packageListMail(const FileManager& files) {
+MailMessage packageListMail(const FileReader& files) {
     return {.subject = "My Cydia Packages Backup",
             .recipients = {},
             .body = "",
@@ -66,6 +55,18 @@ bool isWellFormedRecipient(std::string_view recipient) {
     const std::size_t at = recipient.find('@');
     return at != std::string_view::npos && recipient.size() <= longestRecipient &&
            isLocalPart(recipient.substr(0, at)) && isDomain(recipient.substr(at + 1));
+}
+
+std::vector<std::string> recipientsIn(std::string_view text) {
+    constexpr std::string_view separators = ",; \t\r\n\f\v";
+    std::vector<std::string> recipients;
+    for (auto start = text.find_first_not_of(separators); start != std::string_view::npos;
+         start = text.find_first_not_of(separators, start)) {
+        const auto end = std::min(text.find_first_of(separators, start), text.size());
+        recipients.emplace_back(text.substr(start, end - start));
+        start = end;
+    }
+    return recipients;
 }
 
 std::optional<std::string> headerFaultOf(const MailMessage& message) {

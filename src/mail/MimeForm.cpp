@@ -3,6 +3,7 @@
 #include <gmime/gmime.h>
 
 #include <memory>
+#include <mutex>
 
 namespace tarnwick {
 
@@ -15,8 +16,8 @@ template <class Object>
 using Held = std::unique_ptr<Object, Release>;
 
 void startGMime() {
-    static const bool started = (g_mime_init(), true);
-    static_cast<void>(started);
+    static std::once_flag started;
+    std::call_once(started, g_mime_init);
 }
 
 Held<GMimePart> partOf(const std::string& type, const std::string& content) {
@@ -31,7 +32,7 @@ Held<GMimePart> partOf(const std::string& type, const std::string& content) {
     return part;
 }
 
-// In base 64 even where it is text: what arrives is what was sent, to the last line's end.
+// Base64 even for text, so that it arrives byte for byte.
 Held<GMimePart> attachmentPart(const MailAttachment& attachment) {
     auto part = partOf(attachment.type, attachment.data.value_or(std::string()));
     g_mime_part_set_content_encoding(part.get(), GMIME_CONTENT_ENCODING_BASE64);

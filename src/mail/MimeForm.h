@@ -7,9 +7,8 @@
 
 namespace tarnwick {
 
-// The message as it travels: lines of seven-bit characters that end with a line feed. The sender is
-// left to the mailer, which knows who that is. The message must have no fault in its headers. Any
-// thread.
+// The message in MIME form: seven-bit lines that end with a line feed. It names no sender, which
+// the mailer knows. The headers must have no fault. Any thread.
 std::string mimeForm(const MailMessage& message, std::time_t date);
 
 }  // namespace tarnwick

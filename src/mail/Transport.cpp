@@ -19,17 +19,16 @@ namespace tarnwick {
 
 namespace {
 
-// Recipients stand in the message, and a line with a single dot does not end it.
+// Recipients come from the message, and a line with a single dot does not end it.
 constexpr const char* recipientsOption = "-t";
 constexpr const char* dotOption = "-oi";
 
-// The caller's environment is no business of a program that may run with more rights than the
-// caller has.
+// A program that may have more rights than the caller gets nothing of the caller's environment.
 constexpr const char* searchPath =
     "PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin";
 
-// A file without a name. The mailer reads and writes such files rather than pipes: whatever it
-// leaves unread or has to say, nobody waits for the other and nothing is lost.
+// A file without a name. With files rather than pipes, no side waits for the other, and nothing
+// that the mailer prints is lost.
 class MemoryFile {
 public:
     explicit MemoryFile(const char* name) : file_(::memfd_create(name, MFD_CLOEXEC)) {}
@@ -50,12 +49,12 @@ private:
     Descriptor file_;
 };
 
-// What the mailer said first; empty if it said nothing.
+// What the mailer printed first; empty if it printed nothing.
 std::string firstLine(const std::string& text) {
     return text.substr(0, text.find_first_of("\r\n"));
 }
 
-// An error of posix_spawn, or none.
+// Returns the error of posix_spawn, 0 on success.
 int spawn(pid_t& process, const std::string& program, const MemoryFile& message,
           const MemoryFile& said) {
     posix_spawn_file_actions_t streams;
@@ -73,18 +72,16 @@ int spawn(pid_t& process, const std::string& program, const MemoryFile& message,
     return error;
 }
 
-// True also where the system cannot tell: whoever waits then waits for as long as it takes.
+// Also true where the system cannot tell: waiting then takes as long as it takes.
 bool endsWithin(pid_t process, std::chrono::milliseconds limit) {
-    const int end = static_cast<int>(::syscall(SYS_pidfd_open, process, 0));
-    if (end < 0)
+    const Descriptor end(static_cast<int>(::syscall(SYS_pidfd_open, process, 0)));
+    if (!end.isOpen())
         return true;
-    struct pollfd awaited = {end, POLLIN, 0};
-    const bool ended = ::poll(&awaited, 1, static_cast<int>(limit.count())) != 0;
-    ::close(end);
-    return ended;
+    struct pollfd awaited = {.fd = end.number(), .events = POLLIN, .revents = 0};
+    return ::poll(&awaited, 1, static_cast<int>(limit.count())) != 0;
 }
 
-// The status as wait gives it; none if it cannot be had.
+// The status as wait() reports it; null if it is not available.
 std::optional<int> endOf(pid_t process) {
     int status = 0;
     while (::waitpid(process, &status, 0) < 0)

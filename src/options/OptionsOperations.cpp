@@ -9,23 +9,38 @@
 namespace tarnwick {
 
 const std::vector<RecreatableFolder>& recreatableFolders() {
-    // The last one's words differ from the others'.
+    // The last message differs from the others.
     static const std::vector<RecreatableFolder> folders = {
-        {"Parent Folder: Tarnwick", std::string(paths::safeguardRoot), "Create Application Folder",
-         "Done !"},
-        {"CydiaSources", std::string(paths::sourcesFolder), "Create Cydia Sources Folder",
-         "Done !"},
-        {"CydiaPackages", std::string(paths::packagesFolder), "Create Cydia Packages Folder",
-         "Done !"},
-        {"TarnwickLibrary", std::string(paths::archiveFolder), "Create Library Folder",
-         "Successful !"},
+        {.buttonTitle = "Parent Folder: Tarnwick",
+         .path = std::string(paths::safeguardRoot),
+         .resultTitle = "Create Application Folder",
+         .resultMessage = "Done !"},
+        {.buttonTitle = "CydiaSources",
+         .path = std::string(paths::sourcesFolder),
+         .resultTitle = "Create Cydia Sources Folder",
+         .resultMessage = "Done !"},
+        {.buttonTitle = "CydiaPackages",
+         .path = std::string(paths::packagesFolder),
+         .resultTitle = "Create Cydia Packages Folder",
+         .resultMessage = "Done !"},
+        {.buttonTitle = "TarnwickLibrary",
+         .path = std::string(paths::archiveFolder),
+         .resultTitle = "Create Library Folder",
+         .resultMessage = "Successful !"},
     };
     return folders;
 }
 
-OptionsOperations::OptionsOperations(const ItemCatalogue& catalogue, CommandRunner& runner,
-                                     FileManager& files, Feedback& feedback, TaskQueues& queues)
-    : catalogue_(catalogue), runner_(runner), files_(files), feedback_(feedback), queues_(queues) {}
+NamedActions OptionsOperations::actions() {
+    return {
+        {"recreateApplicationFolders", [this] { recreateApplicationFolders(); }},
+        {"removeSafeguard", [this] { removeSafeguard(); }},
+        {"removeSourcesList", [this] { removeSourcesList(); }},
+        {"respring", [this] { respring(); }},
+        {"reboot", [this] { reboot(); }},
+        {"backupSize", [this] { backupSize(); }},
+    };
+}
 
 void OptionsOperations::readStorageFigures(StorageFigures show) {
     queues_.dispatchToGlobalQueue([this, show = std::move(show)] {
@@ -44,141 +59,134 @@ std::string OptionsOperations::freePrivateSpace() const {
 }
 
 void OptionsOperations::recreateApplicationFolders() {
-    ask("Create Application Folders",
+    ask(RecreateFoldersTag, "Create Application Folders",
         "Do you have removed application Folders ? Press All Folders to recreate them, Partially "
         "to choose which folder to recreate or Cancel to close this window",
-        "Cancel", {"All Folders", "Partially"}, RecreateFoldersTag);
+        {"All Folders", "Partially"});
 }
 
-void OptionsOperations::chooseFolder(int) {
+void OptionsOperations::chooseFolder() {
     std::vector<std::string> buttons;
     for (const RecreatableFolder& folder : recreatableFolders())
         buttons.push_back(folder.buttonTitle);
-    ask("Create Application Folders", "Select wich folder to recreate", "Cancel", buttons,
-        FolderChoiceTag);
+    ask(FolderChoiceTag, "Create Application Folders", "Select wich folder to recreate", buttons);
 }
 
 void OptionsOperations::removeSafeguard() {
-    ask("Remove Backup Folders",
+    ask(RemoveSafeguardTag, "Remove Backup Folders",
         "Do you want to remove your Safeguard ? Do this only if you don't need to restore "
         "something and if you need some disk space !",
-        "Cancel", {"Yes"}, RemoveSafeguardTag);
+        {"Yes"});
 }
 
 void OptionsOperations::removeSourcesList() {
-    ask("Remove TWKSources",
+    ask(RemoveSourcesListTag, "Remove TWKSources",
         "Because Tarnwick now restore sources in a new list file, sources added by this way can't "
         "be deleted from Cydia. Do you want to delete them ? You can also go to "
         "/etc/apt/sources.list.d/ and edit TWKSources.list manually to only delete one source !",
-        "Cancel", {"Delete it"}, RemoveSourcesListTag);
+        {"Delete it"});
 }
 
 void OptionsOperations::respring() {
-    ask("Respring", "Do you really want to Respring your device ?", "Cancel", {"Respring"},
-        RespringTag);
+    ask(RespringTag, "Respring", "Do you really want to Respring your device ?", {"Respring"});
 }
 
 void OptionsOperations::reboot() {
-    ask("Reboot", "Do you really want to Reboot your device ?", "Cancel", {"Reboot"}, RebootTag);
+    ask(RebootTag, "Reboot", "Do you really want to Reboot your device ?", {"Reboot"});
 }
 
 void OptionsOperations::backupSize() {
     std::vector<std::string> buttons;
     for (const BackupItem& item : catalogue_)
         buttons.push_back(item.sizeButtonTitle);
-    ask("Backup Size",
+    ask(SizeChoiceTag, "Backup Size",
         "Do you really want to check the size of the backup file(s) ?\n\n"
         "This will calculate the size of the backup you have done, but if you have never made one, "
         "this will perform a backup in order to check the size and delete it\n\n"
         "Select what you want to check below",
-        "Nothing", buttons, SizeChoiceTag);
+        buttons, "Nothing");
 }
 
 void OptionsOperations::alertViewClickedButtonAtIndex(const Alert& alert, int buttonIndex) {
-    using Action = AlertAction<OptionsOperations>;
     using Self = OptionsOperations;
-    static constexpr std::array<Action, 8> table = {
-        Action{RecreateFoldersTag, 1, 1, &Self::createAllFolders},
-        Action{RecreateFoldersTag, 2, 2, &Self::chooseFolder},
-        Action{FolderChoiceTag, 1, 4, &Self::createChosenFolder},
-        Action{RemoveSafeguardTag, 1, 1, &Self::emptyArchiveFolder},
-        Action{RespringTag, 1, 1, &Self::restartHomeScreen},
-        Action{RebootTag, 1, 1, &Self::restartDevice},
-        Action{RemoveSourcesListTag, 1, 1, &Self::deleteSourcesList},
-        Action{SizeChoiceTag, 1, 11, &Self::startSizeCheck},
-    };
-    performAlertAction<OptionsOperations>(table, *this, alert, buttonIndex);
+    static constexpr std::array<AlertAction<Self>, 8> table = {{
+        {RecreateFoldersTag, 1, [](Self& self, int) { self.createAllFolders(); }},
+        {RecreateFoldersTag, 2, [](Self& self, int) { self.chooseFolder(); }},
+        {FolderChoiceTag, anyOtherButton,
+         [](Self& self, int index) { self.createChosenFolder(index); }},
+        {RemoveSafeguardTag, 1, [](Self& self, int) { self.emptyArchiveFolder(); }},
+        // Without a path, unlike the respring after a restore.
+        {RespringTag, 1, [](Self& self, int) { self.runner_.run("killall backboardd"); }},
+        {RebootTag, 1, [](Self& self, int) { self.runner_.run("/sbin/reboot"); }},
+        {RemoveSourcesListTag, 1, [](Self& self, int) { self.deleteSourcesList(); }},
+        {SizeChoiceTag, anyOtherButton, [](Self& self, int index) { self.startSizeCheck(index); }},
+    }};
+    performAlertAction<Self>(table, *this, alert, buttonIndex);
 }
 
-void OptionsOperations::createAllFolders(int) {
+void OptionsOperations::createAllFolders() {
     createFolders({paths::safeguardFolders.begin(), paths::safeguardFolders.end()},
                   "Create Application Folders", "Done !");
 }
 
 void OptionsOperations::createChosenFolder(int buttonIndex) {
-    const auto& folder = recreatableFolders()[static_cast<std::size_t>(buttonIndex - 1)];
-    createFolders({folder.path}, folder.resultTitle, folder.resultMessage);
+    if (const RecreatableFolder* folder = chosenFrom(recreatableFolders(), buttonIndex))
+        createFolders({folder->path}, folder->resultTitle, folder->resultMessage);
 }
 
 void OptionsOperations::createFolders(const std::vector<std::string>& folders,
                                       const std::string& title, const std::string& message) {
     feedback_.showHud("Creating Application Folders...");
     for (const std::string& folder : folders)
-        files_.createDirectory(folder);
+        changes_.createDirectory(folder);
     feedback_.hideHud();
     showResult(title, message);
 }
 
-void OptionsOperations::emptyArchiveFolder(int) {
+void OptionsOperations::emptyArchiveFolder() {
     feedback_.showHud("Removing Backup...");
-    files_.remove(paths::archiveFolder);
-    files_.createDirectory(paths::archiveFolder);
+    changes_.remove(paths::archiveFolder);
+    changes_.createDirectory(paths::archiveFolder);
     feedback_.hideHud();
     showResult("Backup Suppression", "Done !");
 }
 
-void OptionsOperations::deleteSourcesList(int) {
-    const bool there = files_.exists(paths::ownAptList);
-    if (there)
-        files_.remove(paths::ownAptList);
-    showResult("TWKSources Suppression", there ? "Done !" : "Nothing to remove");
-}
-
-void OptionsOperations::restartHomeScreen(int) {
-    // Without a path, unlike the respring after a restore.
-    runner_.run("killall backboardd");
-}
-
-void OptionsOperations::restartDevice(int) {
-    runner_.run("/sbin/reboot");
+void OptionsOperations::deleteSourcesList() {
+    const bool isThere = files_.exists(paths::ownAptList);
+    if (isThere)
+        changes_.remove(paths::ownAptList);
+    showResult("TWKSources Suppression", isThere ? "Done !" : "Nothing to remove");
 }
 
 void OptionsOperations::startSizeCheck(int buttonIndex) {
-    const BackupItem& item = catalogue_[static_cast<std::size_t>(buttonIndex - 1)];
-    queues_.dispatchToGlobalQueue([this, &item] { checkSize(item); });
+    if (const BackupItem* item = chosenFrom(catalogue_, buttonIndex))
+        queues_.dispatchToGlobalQueue([this, item] { checkSize(*item); });
 }
 
 void OptionsOperations::checkSize(const BackupItem& item) {
     queues_.dispatchToMainQueue([this] { feedback_.showHud("Calculating Backup Size..."); });
-    if (files_.exists(item.archivePaths.front())) {
-        queues_.dispatchToMainQueue([this, &item] {
-            backupSizeCalculation(item.archivePaths, item.sizeResultName);
-            feedback_.hideHud();
-        });
+    if (!files_.exists(item.firstArchivePath())) {
+        measureTemporaryArchives(item);
         return;
     }
+    queues_.dispatchToMainQueue([this, &item] {
+        backupSizeCalculation(item.archivePaths(), item.sizeResultName);
+        feedback_.hideHud();
+    });
+}
+
+void OptionsOperations::measureTemporaryArchives(const BackupItem& item) {
     feedback_.working(item);
-    for (const std::string& line : item.sizeCommands)
-        runner_.run(line);
+    runAll(item.sizeCommands);
     queues_.dispatchToMainQueue([this, &item] {
         backupSizeCalculation(item.sizeArchivePaths, item.sizeResultName);
         for (const std::string& copy : item.sizeCopyPaths)
-            files_.remove(copy);
+            changes_.remove(copy);
         feedback_.hideHud();
     });
     // Right after the hand-over, whether or not the size has been read by then.
     for (const std::string& archive : item.sizeArchivePaths)
-        files_.remove(archive);
+        changes_.remove(archive);
 }
 
 void OptionsOperations::backupSizeCalculation(const std::vector<std::string>& paths,
@@ -190,9 +198,9 @@ void OptionsOperations::backupSizeCalculation(const std::vector<std::string>& pa
                "The \"" + name + "\" backup size is : " + memoryFormatterDouble(bytes));
 }
 
-void OptionsOperations::ask(const std::string& title, const std::string& message,
-                            const std::string& cancelButton,
-                            const std::vector<std::string>& buttons, Tag tag) {
+void OptionsOperations::ask(Tag tag, const std::string& title, const std::string& message,
+                            const std::vector<std::string>& buttons,
+                            const std::string& cancelButton) {
     feedback_.show({.title = title,
                     .message = message,
                     .cancelButtonTitle = cancelButton,

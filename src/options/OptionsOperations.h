@@ -4,15 +4,11 @@
 #include <string>
 #include <vector>
 
-#include "core/CommandRunner.h"
-#include "core/Feedback.h"
-#include "core/FileManager.h"
-#include "core/ItemCatalogue.h"
-#include "core/TaskQueues.h"
+#include "core/TaskOperations.h"
 
 namespace tarnwick {
 
-// One of the four folders that can be made again, by its place in the choice.
+// A folder that can be recreated, and what its choice says.
 struct RecreatableFolder {
     std::string buttonTitle;
     std::string path;
@@ -23,13 +19,11 @@ struct RecreatableFolder {
 // In the order of the choice: the button of the first has index 1.
 const std::vector<RecreatableFolder>& recreatableFolders();
 
-// The tools of the Options screen. Each action asks in an alert; the answer does the work. Must
-// outlive the tasks that it started.
-class OptionsOperations {
+// The tools of the Options screen. Each action asks in an alert; the answer does the work.
+class OptionsOperations : public TaskOperations {
 public:
-    // Tags of the alerts. An unscoped enumeration, as an alert carries its tag as a number.
+    // Tags of the alerts. Unscoped, as an alert carries its tag as a number.
     enum Tag : int {
-        NoTag = 0,
         RecreateFoldersTag = 1,
         FolderChoiceTag = 2,
         RemoveSafeguardTag = 3,
@@ -41,12 +35,14 @@ public:
 
     using StorageFigures = std::function<void(const std::string& total, const std::string& free)>;
 
-    OptionsOperations(const ItemCatalogue& catalogue, CommandRunner& runner, FileManager& files,
-                      Feedback& feedback, TaskQueues& queues);
+    using TaskOperations::TaskOperations;
+
+    // One for each button. The operations must outlive them.
+    NamedActions actions();
 
     // Reads both figures on the global queue and hands them over on the main queue.
     void readStorageFigures(StorageFigures show);
-    // "0.00 bytes" if the partition cannot be asked. Any thread; asked afresh at each call.
+    // "0.00 bytes" if the partition does not answer. Any thread; read afresh at each call.
     std::string totalPrivateSpace() const;
     std::string freePrivateSpace() const;
 
@@ -58,7 +54,7 @@ public:
     void reboot();
     void backupSize();
 
-    // Main thread. Tells the size of the archives together; one that cannot be looked at counts as
+    // Main thread. Reports the total size of the archives; one that is not accessible counts as
     // 0 bytes.
     void backupSizeCalculation(const std::vector<std::string>& paths, const std::string& name);
 
@@ -66,26 +62,19 @@ public:
     void alertViewClickedButtonAtIndex(const Alert& alert, int buttonIndex);
 
 private:
-    void createAllFolders(int buttonIndex);
-    void chooseFolder(int buttonIndex);
+    void createAllFolders();
+    void chooseFolder();
     void createChosenFolder(int buttonIndex);
     void createFolders(const std::vector<std::string>& folders, const std::string& title,
                        const std::string& message);
-    void emptyArchiveFolder(int buttonIndex);
-    void deleteSourcesList(int buttonIndex);
-    void restartHomeScreen(int buttonIndex);
-    void restartDevice(int buttonIndex);
+    void emptyArchiveFolder();
+    void deleteSourcesList();
     void startSizeCheck(int buttonIndex);
     void checkSize(const BackupItem& item);
-    void ask(const std::string& title, const std::string& message, const std::string& cancelButton,
-             const std::vector<std::string>& buttons, Tag tag);
+    void measureTemporaryArchives(const BackupItem& item);
+    void ask(Tag tag, const std::string& title, const std::string& message,
+             const std::vector<std::string>& buttons, const std::string& cancelButton = "Cancel");
     void showResult(const std::string& title, const std::string& message);
-
-    const ItemCatalogue& catalogue_;
-    CommandRunner& runner_;
-    FileManager& files_;
-    Feedback& feedback_;
-    TaskQueues& queues_;
 };
 
 }  // namespace tarnwick

@@ -1,40 +1,33 @@
 #pragma once
 
 #include "options/OptionsOperations.h"
-#include "screens/TaskScreen.h"
+#include "screens/OperationsScreen.h"
+#include "screens/ScreenStyle.h"
 
 namespace tarnwick {
 
 // The Options screen.
-class OptionsViewController : public TaskScreen {
-    Q_OBJECT
-
+class OptionsViewController : public OperationsScreen<OptionsOperations> {
 public:
-    explicit OptionsViewController(const ScreenServices& services);
+    using OperationsScreen::OperationsScreen;
 
     Outlet<QQuickItem> mainOptions{this, "mainOptions"};
-    Outlet<QQuickItem> applicationFilesAndFoldersTitle{this, "applicationFilesAndFoldersTitle"};
-    Outlet<QQuickItem> recreateApplicationFoldersButton{this, "recreateApplicationFoldersButton"};
-    Outlet<QQuickItem> removeSafeguardButton{this, "removeSafeguardButton"};
-    Outlet<QQuickItem> removeSourcesListButton{this, "removeSourcesListButton"};
-    Outlet<QQuickItem> applyChangesOptionsTitle{this, "applyChangesOptionsTitle"};
-    Outlet<QQuickItem> respringButton{this, "respringButton"};
-    Outlet<QQuickItem> rebootButton{this, "rebootButton"};
-    Outlet<QQuickItem> miscellaneousTitle{this, "miscellaneousTitle"};
+    StyledOutlet applicationFilesAndFoldersTitle{this, "applicationFilesAndFoldersTitle",
+                                                 styleHeading};
+    StyledOutlet recreateApplicationFoldersButton{this, "recreateApplicationFoldersButton",
+                                                  styleButton};
+    StyledOutlet removeSafeguardButton{this, "removeSafeguardButton", styleButton};
+    StyledOutlet removeSourcesListButton{this, "removeSourcesListButton", styleButton};
+    StyledOutlet applyChangesOptionsTitle{this, "applyChangesOptionsTitle", styleHeading};
+    StyledOutlet respringButton{this, "respringButton", styleButton};
+    StyledOutlet rebootButton{this, "rebootButton", styleButton};
+    StyledOutlet miscellaneousTitle{this, "miscellaneousTitle", styleHeading};
     Outlet<QQuickItem> totalUserMemory{this, "totalUserMemory"};
     Outlet<QQuickItem> freeUserMemory{this, "freeUserMemory"};
-    Outlet<QQuickItem> backupSizeButton{this, "backupSizeButton"};
-
-    void alertClickedButtonAtIndex(const Alert& alert, int index) override;
+    StyledOutlet backupSizeButton{this, "backupSizeButton", styleButton};
 
 protected:
     void viewDidLoad() override;
-
-private:
-    void addOperation(const QString& name, void (OptionsOperations::*operation)());
-    void styleElements();
-
-    OptionsOperations operations_;
 };
 
 }  // namespace tarnwick

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "core/JoinedText.h"
 #include "core/SafeguardPaths.h"
 #include "core/TextLines.h"
 
@@ -9,7 +10,7 @@ namespace tarnwick {
 
 namespace {
 
-// The five steps are joined by pipes and so start all at once; the last one's status is the line's.
+// Joined by pipes, the five steps start at the same time.
 const std::string packagesCommand =
     "killall MobileCydia | killall Cydia | apt-get update | dpkg --set-selections < " +
     std::string(paths::savedPackages) + " | apt-get -y --allow-unauthenticated dselect-upgrade";
@@ -20,38 +21,44 @@ std::string withoutEvery(std::string text, std::string_view part) {
     return text;
 }
 
-std::string joined(const std::vector<std::string>& names) {
-    return joinLines(Lines(names.begin(), names.end()));
-}
-
 }  // namespace
 
 OfferWords wordsOf(Offer offer) {
     switch (offer) {
         case Offer::Respring:
-            return {
-                " Do you want to respring now ?", {"Respring now"}, RestoreOperations::RespringTag};
+            return {.question = " Do you want to respring now ?",
+                    .buttons = {"Respring now"},
+                    .tag = RestoreOperations::RespringTag};
         case Offer::Reboot:
-            return {" Do you want to reboot now ?", {"Reboot now"}, RestoreOperations::RebootTag};
+            return {.question = " Do you want to reboot now ?",
+                    .buttons = {"Reboot now"},
+                    .tag = RestoreOperations::RebootTag};
         case Offer::None:
             break;
     }
-    return {"", {}, RestoreOperations::NoTag};
+    return {};
 }
 
-RestoreOperations::RestoreOperations(const ItemCatalogue& catalogue, CommandRunner& runner,
-                                     FileManager& files, Feedback& feedback, TaskQueues& queues)
-    : catalogue_(catalogue), runner_(runner), files_(files), feedback_(feedback), queues_(queues) {}
+NamedActions RestoreOperations::actions() {
+    NamedActions actions = {
+        {"restoreSources", [this] { restoreSources(); }},
+        {"restorePackages", [this] { restorePackages(); }},
+        {"restoreAllInOne", [this] { restoreAllInOne(); }},
+    };
+    for (const BackupItem& item : catalogue_)
+        actions["restore" + item.key] = [this, &item] { restore(item); };
+    return actions;
+}
 
 void RestoreOperations::restoreSources() {
     showRestorationHud();
     if (files_.exists(paths::ownAptList))
-        files_.remove(paths::ownAptList);
+        changes_.remove(paths::ownAptList);
     if (files_.exists(paths::cydiaCacheList))
         writeUnknownSources();
     else
         replaceCydiaList();
-    hideRestorationHud();
+    feedback_.hideHud();
     showDone("Cydia Sources Restoration", Offer::None);
 }
 
@@ -60,14 +67,14 @@ void RestoreOperations::writeUnknownSources() {
     const auto savedText = files_.readText(
         files_.exists(paths::savedSourcesList) ? paths::savedSourcesList : paths::savedCydiaList);
     const Lines unknown = linesWithout(splitLines(savedText), splitLines(currentText));
-    files_.createFile(paths::ownAptList);
-    files_.writeText(paths::ownAptList, joinLines(unknown));
+    changes_.createFile(paths::ownAptList);
+    changes_.writeText(paths::ownAptList, joinLines(unknown));
 }
 
 void RestoreOperations::replaceCydiaList() {
-    // Removed whether or not there is a saved list to take its place.
-    files_.remove(paths::cydiaAptList);
-    files_.copy(paths::savedCydiaList, paths::cydiaAptList);
+    // Removed even if there is no saved list to replace it.
+    changes_.remove(paths::cydiaAptList);
+    changes_.copy(paths::savedCydiaList, paths::cydiaAptList);
 }
 
 void RestoreOperations::restorePackages() {
@@ -78,12 +85,12 @@ void RestoreOperations::restorePackages() {
 void RestoreOperations::doRestorePackages() {
     const std::string title = "Cydia Packages Restoration";
     if (!files_.exists(paths::savedPackages)) {
-        // The HUD stays over the screen on this way out.
+        // The HUD stays over the screen in this case.
         showMissing(title, "You have no Cydia Packages backup, there is nothing to do !");
         return;
     }
     runner_.run(packagesCommand);
-    hideRestorationHudOnMainThread();
+    hideHudOnMainThread();
     showDone(title, Offer::Respring);
 }
 
@@ -94,13 +101,13 @@ void RestoreOperations::restore(const BackupItem& item) {
 
 void RestoreOperations::doRestore(const BackupItem& item) {
     feedback_.working(item);
-    // The application is stopped even when there turns out to be no backup.
+    // The application is stopped even if there is no backup.
     if (item.stopCommand)
         runner_.run(*item.stopCommand);
-    const bool saved = files_.exists(item.archivePaths.front());
+    const bool saved = files_.exists(item.firstArchivePath());
     if (saved)
         runAll(item.restoreCommands);
-    hideRestorationHudOnMainThread();
+    hideHudOnMainThread();
     if (saved)
         showDone(item.restoreTitle, item.offer);
     else
@@ -116,10 +123,10 @@ std::optional<std::vector<std::string>> RestoreOperations::safeguardContent() co
 }
 
 void RestoreOperations::restoreAllInOne() {
-    const std::string list = joined(safeguardContent().value_or(std::vector<std::string>{}));
+    const auto names = safeguardContent().value_or(std::vector<std::string>{});
     feedback_.show({.title = "All In One Restoration ",
-                    .message = "You have all of these backup on your device : \n\n" + list +
-                               "\n\n Do you want to restore all of them ?",
+                    .message = "You have all of these backup on your device : \n\n" +
+                               joined(names, "\n") + "\n\n Do you want to restore all of them ?",
                     .cancelButtonTitle = "Cancel",
                     .otherButtonTitles = {"Yes"},
                     .tag = AllInOneConfirmationTag,
@@ -128,56 +135,42 @@ void RestoreOperations::restoreAllInOne() {
 
 void RestoreOperations::doTheRestoreAllInOne() {
     for (const BackupItem& item : catalogue_) {
-        if (!files_.exists(item.archivePaths.front()))
+        if (!files_.exists(item.firstArchivePath()))
             continue;
         feedback_.working(item);
         if (item.stopCommand)
             runner_.run(*item.stopCommand);
         runAll(item.restoreCommands);
     }
-    hideRestorationHudOnMainThread();
-    // The run closes with the words of its last item, whatever was restored.
-    showDone("Voicemails Restoration", Offer::Reboot);
+    hideHudOnMainThread();
+    // The whole run is reported under the last item's title, whatever was restored.
+    showDone(catalogue_.back().restoreTitle, Offer::Reboot);
 }
 
 void RestoreOperations::alertViewClickedButtonAtIndex(const Alert& alert, int buttonIndex) {
-    using Action = AlertAction<RestoreOperations>;
-    static constexpr std::array<Action, 3> table = {
-        Action{RespringTag, 1, 1, &RestoreOperations::respring},
-        Action{RebootTag, 1, 1, &RestoreOperations::reboot},
-        Action{AllInOneConfirmationTag, 1, 1, &RestoreOperations::startRestoreAllInOne},
-    };
-    performAlertAction<RestoreOperations>(table, *this, alert, buttonIndex);
+    using Self = RestoreOperations;
+    static constexpr std::array<AlertAction<Self>, 3> table = {{
+        {RespringTag, 1, [](Self& self, int) { self.accept(Offer::Respring); }},
+        {RebootTag, 1, [](Self& self, int) { self.accept(Offer::Reboot); }},
+        {AllInOneConfirmationTag, 1, [](Self& self, int) { self.startRestoreAllInOne(); }},
+    }};
+    performAlertAction<Self>(table, *this, alert, buttonIndex);
 }
 
-void RestoreOperations::respring(int) {
-    runner_.run("/usr/bin/killall backboardd");
+void RestoreOperations::accept(Offer offer) {
+    if (offer == Offer::Respring)
+        runner_.run("/usr/bin/killall backboardd");
+    if (offer == Offer::Reboot)
+        runner_.run("/sbin/reboot");
 }
 
-void RestoreOperations::reboot(int) {
-    runner_.run("/sbin/reboot");
-}
-
-void RestoreOperations::startRestoreAllInOne(int) {
+void RestoreOperations::startRestoreAllInOne() {
     showRestorationHud();
     queues_.runInBackground([this] { doTheRestoreAllInOne(); });
 }
 
 void RestoreOperations::showRestorationHud() {
     feedback_.showHud("Restoration in progress...");
-}
-
-void RestoreOperations::hideRestorationHud() {
-    feedback_.hideHud();
-}
-
-void RestoreOperations::hideRestorationHudOnMainThread() {
-    queues_.performOnMainThreadAndWait([this] { hideRestorationHud(); });
-}
-
-void RestoreOperations::runAll(const std::vector<std::string>& lines) {
-    for (const std::string& line : lines)
-        runner_.run(line);
 }
 
 void RestoreOperations::showDone(const std::string& title, Offer offer) {
@@ -190,18 +183,6 @@ void RestoreOperations::showDone(const std::string& title, Offer offer) {
 
 void RestoreOperations::showMissing(const std::string& title, const std::string& message) {
     feedback_.show({.title = title, .message = message, .kind = AlertKind::Problem});
-}
-
-std::vector<RestoreAction> restoreActions(const ItemCatalogue& catalogue) {
-    std::vector<RestoreAction> actions = {
-        {"restoreSources", &RestoreOperations::restoreSources},
-        {"restorePackages", &RestoreOperations::restorePackages},
-        {"restoreAllInOne", &RestoreOperations::restoreAllInOne},
-    };
-    for (const BackupItem& item : catalogue)
-        actions.push_back({"restore" + item.key,
-                           [&item](RestoreOperations& operations) { operations.restore(item); }});
-    return actions;
 }
 
 }  // namespace tarnwick

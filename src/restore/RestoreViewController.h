@@ -6,21 +6,14 @@
 namespace tarnwick {
 
 // The Restore screen.
-class RestoreViewController : public ItemsScreen {
-    Q_OBJECT
-
+class RestoreViewController : public ItemsScreen<RestoreOperations> {
 public:
-    explicit RestoreViewController(const ScreenServices& services);
+    using ItemsScreen::ItemsScreen;
 
     Outlet<QQuickItem> mainRestore{this, "mainRestore"};
 
-    void alertClickedButtonAtIndex(const Alert& alert, int index) override;
-
 protected:
     void viewDidLoad() override;
-
-private:
-    RestoreOperations operations_;
 };
 
 }  // namespace tarnwick

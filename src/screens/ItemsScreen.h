@@ -1,37 +1,33 @@
 #pragma once
 
-#include "screens/TaskScreen.h"
+#include "screens/OperationsScreen.h"
+#include "screens/ScreenStyle.h"
 
 namespace tarnwick {
 
 // What the Backup and the Restore screen share: two buttons for the package manager's sources and
 // packages, one for all data sets in one, and one for each of them.
-class ItemsScreen : public TaskScreen {
-    Q_OBJECT
-
+template <class ScreenOperations>
+class ItemsScreen : public OperationsScreen<ScreenOperations> {
 public:
-    using TaskScreen::TaskScreen;
+    using OperationsScreen<ScreenOperations>::OperationsScreen;
 
-    Outlet<QQuickItem> cydiaAndPackagesTitle{this, "cydiaAndPackagesTitle"};
-    Outlet<QQuickItem> sourcesButton{this, "sourcesButton"};
-    Outlet<QQuickItem> packagesButton{this, "packagesButton"};
-    Outlet<QQuickItem> stockApplicationsTitle{this, "stockApplicationsTitle"};
-    Outlet<QQuickItem> allInOneButton{this, "allInOneButton"};
-    Outlet<QQuickItem> tweaksPrefButton{this, "tweaksPrefButton"};
-    Outlet<QQuickItem> accountsButton{this, "accountsButton"};
-    Outlet<QQuickItem> calendarEventsButton{this, "calendarEventsButton"};
-    Outlet<QQuickItem> callHistoryButton{this, "callHistoryButton"};
-    Outlet<QQuickItem> contactsButton{this, "contactsButton"};
-    Outlet<QQuickItem> messageButton{this, "messageButton"};
-    Outlet<QQuickItem> notesButton{this, "notesButton"};
-    Outlet<QQuickItem> photosButton{this, "photosButton"};
-    Outlet<QQuickItem> safariBookmarksButton{this, "safariBookmarksButton"};
-    Outlet<QQuickItem> springboardButton{this, "springboardButton"};
-    Outlet<QQuickItem> voicemailsButton{this, "voicemailsButton"};
-
-protected:
-    // Headings and buttons, from top to bottom.
-    void styleElements();
+    StyledOutlet cydiaAndPackagesTitle{this, "cydiaAndPackagesTitle", styleHeading};
+    StyledOutlet sourcesButton{this, "sourcesButton", styleButton};
+    StyledOutlet packagesButton{this, "packagesButton", styleButton};
+    StyledOutlet stockApplicationsTitle{this, "stockApplicationsTitle", styleHeading};
+    StyledOutlet allInOneButton{this, "allInOneButton", styleButton};
+    StyledOutlet tweaksPrefButton{this, "tweaksPrefButton", styleButton};
+    StyledOutlet accountsButton{this, "accountsButton", styleButton};
+    StyledOutlet calendarEventsButton{this, "calendarEventsButton", styleButton};
+    StyledOutlet callHistoryButton{this, "callHistoryButton", styleButton};
+    StyledOutlet contactsButton{this, "contactsButton", styleButton};
+    StyledOutlet messageButton{this, "messageButton", styleButton};
+    StyledOutlet notesButton{this, "notesButton", styleButton};
+    StyledOutlet photosButton{this, "photosButton", styleButton};
+    StyledOutlet safariBookmarksButton{this, "safariBookmarksButton", styleButton};
+    StyledOutlet springboardButton{this, "springboardButton", styleButton};
+    StyledOutlet voicemailsButton{this, "voicemailsButton", styleButton};
 };
 
 }  // namespace tarnwick

@@ -1,4 +1,4 @@
-// How elements of all screens are styled. Main thread.
+// The style of elements on all screens. Main thread.
 #pragma once
 
 #include <QQuickItem>
@@ -10,7 +10,8 @@ namespace tarnwick {
 void styleHeading(QQuickItem* heading);
 // A filled button in the program's blue.
 void styleButton(QQuickItem* button);
-// Without a limit of lines, fitted, and then given its text: its final size is the scene's.
+// Lifts the limit of lines, fits the label, and then sets its text: the scene decides its final
+// size.
 void fillLabel(QQuickItem* label, const QString& text);
 
 }  // namespace tarnwick

@@ -2,12 +2,9 @@
 
 #include <utility>
 
-#include "platform/motion/Frames.h"
-#include "ui/reveal/RevealSegues.h"
-
 namespace tarnwick {
 
-// Keeps the screen for as long as there is something to do for it.
+// Keeps the screen alive while it has tasks.
 class TaskScreen::Queues : public TaskQueues {
 public:
     Queues(TaskScreen& screen, TaskQueues& queues) : screen_(screen), queues_(queues) {}
@@ -49,26 +46,26 @@ void TaskScreen::show(const Alert& alert) {
     const auto self = shared_from_this();
     {
         const std::lock_guard lock(guard_);
-        heldByAlerts_.push_back(self);
+        ++openAlerts_;
+        self_ = self;
     }
     services_.alerts.show(alert, std::shared_ptr<AlertDelegate>(self, this));
 }
 
-void TaskScreen::alertDidDismissWithButtonIndex(const Alert& alert, int index) {
-    static_cast<void>(alert);
-    static_cast<void>(index);
-    std::shared_ptr<ViewController> released;  // once the lock is
+void TaskScreen::alertDidDismissWithButtonIndex(const Alert&, int) {
+    std::shared_ptr<ViewController> released;  // after the lock, which is the screen's
     const std::lock_guard lock(guard_);
-    released = std::move(heldByAlerts_.back());
-    heldByAlerts_.pop_back();
+    if (--openAlerts_ == 0)
+        released = std::move(self_);
 }
 
-void TaskScreen::pinContentView() {
-    pinToWidth(contentView.get(), view());
-}
-
-void TaskScreen::wireMenu() {
-    wireToRevealContainer(*this, *sidebarButton.get());
+OperationServices TaskScreen::operationServices() {
+    return {.catalogue = services_.catalogue,
+            .runner = services_.runner,
+            .files = services_.files,
+            .changes = services_.files,
+            .feedback = *this,
+            .queues = *queues_};
 }
 
 }  // namespace tarnwick

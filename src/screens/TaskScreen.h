@@ -3,29 +3,24 @@
 #include <QPointer>
 #include <memory>
 #include <mutex>
-#include <vector>
 
-#include "core/Feedback.h"
-#include "platform/controllers/NavigationBar.h"
-#include "platform/controllers/Outlet.h"
-#include "platform/controllers/ViewController.h"
+#include "core/TaskOperations.h"
+#include "platform/windows/AlertPresenter.h"
+#include "screens/FrontScreen.h"
 #include "screens/ScreenServices.h"
 #include "ui/hud/ProgressHUD.h"
 
 namespace tarnwick {
 
-// A screen that runs tasks: it shows their HUD and their alerts, and hears which buttons are
-// pressed. It lives until its tasks are done and its alerts answered, even if another screen is in
-// front by then.
-class TaskScreen : public ViewController, public Feedback, public AlertDelegate {
+// A screen that runs tasks: it shows their HUD and alerts, and learns which buttons are pressed. It
+// lives until its tasks are done and its alerts answered, even if another screen is in front by
+// then.
+class TaskScreen : public FrontScreen, public Feedback, public AlertDelegate {
     Q_OBJECT
 
 public:
     explicit TaskScreen(const ScreenServices& services);
     ~TaskScreen() override;
-
-    Outlet<BarButtonItem> sidebarButton{this, "sidebarButton"};
-    Outlet<QQuickItem> contentView{this, "contentView"};
 
     void showHud(std::string_view label) override;
     void hideHud() override;
@@ -33,12 +28,8 @@ public:
     void alertDidDismissWithButtonIndex(const Alert& alert, int index) override;
 
 protected:
-    const ScreenServices& services() const { return services_; }
-    // The queues for this screen's operations.
-    TaskQueues& queues() { return *queues_; }
-    // The last steps of every screen's viewDidLoad().
-    void pinContentView();
-    void wireMenu();
+    // For the operations of this screen.
+    OperationServices operationServices();
 
 private:
     class Queues;
@@ -46,8 +37,9 @@ private:
     const ScreenServices& services_;
     const std::unique_ptr<TaskQueues> queues_;
     QPointer<ProgressHUD> hud_;
-    std::mutex guard_;                                           // of what follows
-    std::vector<std::shared_ptr<ViewController>> heldByAlerts_;  // this screen, for each
+    std::mutex guard_;  // of what follows
+    int openAlerts_ = 0;
+    std::shared_ptr<ViewController> self_;  // while an alert is open
 };
 
 }  // namespace tarnwick

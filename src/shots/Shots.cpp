@@ -78,8 +78,7 @@ int takeAll(const QString& folder, const QString& suffix, const std::vector<Shot
     return 0;
 }
 
-// The number of pixels a point is settled before the application object is made: a process for
-// each.
+// A process for each scale, as it must be set before the application object is created.
 int takeAtEachScale(const QString& program, const QString& folder) {
     if (!QDir().mkpath(folder))
         return failure("cannot make " + folder);

@@ -10,8 +10,8 @@
 
 namespace tarnwick {
 
-// A picture to take: its file's name, the size of the window in points, and how to make the window
-// and bring it there.
+// A picture to take: the file's name, the size of the window in points, how to make the window, and
+// how to bring it into the state to show.
 struct Shot {
     QString name;
     QSize size;
@@ -22,12 +22,11 @@ struct Shot {
 // Whether the program was started to take pictures: "--shots FOLDER", or by takeShots() itself.
 bool isToTakeShots(int count, char** values);
 
-// Takes all pictures at one and two pixels a point, each into a file of its own and all of them on
-// one sheet. Answers the program's exit status. Makes the application object, so it must be called
-// before that.
+// Takes all pictures at one and two pixels a point, one file each, and a contact sheet. Creates the
+// application object, so there must be none yet. Returns the program's exit status.
 int takeShots(int count, char** values, const std::function<std::vector<Shot>()>& shots);
 
-// Runs the event loop until what fades or slides has come to rest.
+// Runs the event loop until animations have come to rest.
 void waitForRest();
 
 }  // namespace tarnwick

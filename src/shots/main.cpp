@@ -1,4 +1,4 @@
-// Pictures of the program's screens, their menu, HUD and alerts. Nothing runs for them.
+// Pictures of the program's screens with menu, HUD and alerts. No command is run.
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -34,16 +34,15 @@ public:
     int run(const std::string&) override { return 0; }
 };
 
-// The program over a folder of its own, with one screen in front.
-class Program : public Window {
+// The program on a temporary folder, with one screen in front.
+class StagedScreen : public Window {
 public:
-    Program(const QString& scene, TextSize textSize) : files_(folder_.path().toStdString()) {
+    StagedScreen(const QString& scene, TextSize textSize) : files_(folder_.path().toStdString()) {
         QFont font;
         font.setPixelSize(textSize);
         QGuiApplication::setFont(font);
-        files_.createDirectory("/private/var");  // whose figures Options shows
-        std::make_shared<AppDelegate>(*this, services_)
-            ->applicationDidFinishLaunchingWithOptions({});
+        files_.createDirectory("/private/var");  // Options shows its size
+        AppDelegate(*this, services_).applicationDidFinishLaunchingWithOptions({});
         const auto storyboard = loadMainStoryboard(services_);
         reveal_ = std::static_pointer_cast<RevealViewController>(
             storyboard->instantiateInitialViewController());
@@ -58,7 +57,7 @@ public:
         return *navigation.rootViewController();
     }
 
-    // Presses a button of the screen, and waits for what is shown then.
+    // Presses a button of the screen and waits for the alert.
     void press(const char* button) {
         QMetaObject::invokeMethod(screen().view()->findChild<QQuickItem*>(button), "clicked");
         constexpr int patience = 2000;  // milliseconds
@@ -75,38 +74,44 @@ private:
     PlatformQueues queues_;
     ComposerMailer mailer_{queues_};
     SystemLog log_;
-    ScreenServices services_ = {catalogue_, runner_, files_, queues_, alerts(), mailer_, log_};
+    ScreenServices services_ = {.catalogue = catalogue_,
+                                .runner = runner_,
+                                .files = files_,
+                                .queues = queues_,
+                                .alerts = alerts(),
+                                .mailer = mailer_,
+                                .log = log_};
     std::shared_ptr<RevealViewController> reveal_;
 };
 
-using Staging = std::function<void(Program& program)>;
+using Staging = std::function<void(StagedScreen& staged)>;
 
 Shot shotOf(
     const QString& name, const QString& scene, const QSize& size,
-    const Staging& staging = [](Program&) {}, TextSize text = UsualText) {
-    return {name, size, [scene, text] { return std::make_unique<Program>(scene, text); },
-            [staging](Window& window) { staging(static_cast<Program&>(window)); }};
+    const Staging& staging = [](StagedScreen&) {}, TextSize text = UsualText) {
+    return {name, size, [scene, text] { return std::make_unique<StagedScreen>(scene, text); },
+            [staging](Window& window) { staging(static_cast<StagedScreen&>(window)); }};
 }
 
 Staging pressing(const char* button) {
-    return [button](Program& program) { program.press(button); };
+    return [button](StagedScreen& staged) { staged.press(button); };
 }
 
 // With an archive of the accounts, so that there is something to restore.
 Staging pressingWithArchive(const char* button) {
-    return [button](Program& program) {
-        program.files().createDirectory(paths::archiveFolder);
-        program.files().writeText(std::string(paths::archiveFolder) + "/Accounts.zip", "");
-        program.press(button);
+    return [button](StagedScreen& staged) {
+        staged.files().createDirectory(paths::archiveFolder);
+        staged.files().writeText(std::string(paths::archiveFolder) + "/Accounts.zip", "");
+        staged.press(button);
     };
 }
 
-void openMenu(Program& program) {
-    program.reveal().setFrontViewPosition(FrontPositionSlidRight);
+void openMenu(StagedScreen& staged) {
+    staged.reveal().setFrontViewPosition(FrontPositionSlidRight);
 }
 
-void showHud(Program& program) {
-    ProgressHUD* hud = ProgressHUD::showHUDAddedTo(program.screen().view(), Animated::No);
+void showHud(StagedScreen& staged) {
+    ProgressHUD* hud = ProgressHUD::showHUDAddedTo(staged.screen().view(), Animated::No);
     hud->setLabelText("Restoration in progress...");
 }
 
@@ -119,8 +124,8 @@ std::vector<Shot> shots() {
             shots.push_back(shotOf(QString("%1-%2").arg(scene, suffix), scene, size));
     for (const auto& [suffix, size] : sizes)
         shots.push_back(shotOf(QString("menu-%1").arg(suffix), "backup", size, openMenu));
-    const std::pair<const char*, Staging> large[] = {{"backup", [](Program&) {}},
-                                                     {"options", [](Program&) {}},
+    const std::pair<const char*, Staging> large[] = {{"backup", [](StagedScreen&) {}},
+                                                     {"options", [](StagedScreen&) {}},
                                                      {"cloud", openMenu},
                                                      {"help", showHud},
                                                      {"restore", pressing("accountsButton")}};

@@ -24,7 +24,7 @@ void answer(Operations& on, void (OptionsOperations::*question)(), std::size_t b
 
 void restore(Operations& on, const std::string& target) {
     if (target != "all") {
-        restoreActions(on.catalogue)[placeIn(targetWords(on.catalogue), target)].run(on.restore);
+        on.restore.actions().at(actionName("restore", target, on.catalogue))();
         return;
     }
     on.restore.restoreAllInOne();
@@ -55,7 +55,7 @@ void ask(Operations& on) {
 
 void perform(Operations& on, const std::string& verb, const std::string& word) {
     if (verb == "save")
-        backupActions(on.catalogue)[placeIn(targetWords(on.catalogue), word)].run(on.backup);
+        on.backup.actions().at(actionName("save", word, on.catalogue))();
     else if (verb == "restore")
         restore(on, word);
     else if (verb == "size")

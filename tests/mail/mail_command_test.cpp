@@ -38,8 +38,7 @@ TEST(MailCommand, SendsTheListToEachAddress) {
 
 TEST(MailCommand, SaysWhatFailed) {
     MailRun tarnwick;
-    const std::string empty =
-        "tarnwick: there is no saved package list to read: the attachment is empty\n";
+    const std::string empty = "tarnwick: there is no saved package list: the attachment is empty\n";
     EXPECT_EQ(tarnwick("mail --to me@example.org"), AllDone);
     EXPECT_EQ(tarnwick.problems(), empty);
     tarnwick.folder.put(savedPackages, "");
@@ -74,7 +73,7 @@ TEST(MailCommand, AsksForTheAddressesAtATerminal) {
 
 TEST(MailCommand, SendsNothingWithoutGoodAddresses) {
     const std::pair<const char*, const char*> rows[] = {
-        {"mail", "this asks whom to mail; without a terminal to ask on, say --to"},
+        {"mail", "mail needs a recipient; without a terminal, use --to"},
         {"mail --to", "\"\" is not a mail address"},
         {"mail --to bob", "\"bob\" is not a mail address"},
         {"mail --to=a@b.c --to a@b@c --dry-run", "\"a@b@c\" is not a mail address"},

@@ -17,9 +17,15 @@ struct Operations {
     RecordingFileManager files{diary, folder};
     RecordingFeedback feedback{diary};
     SteppedQueues queues{diary};
-    BackupOperations backup{catalogue, runner, files, feedback, queues};
-    RestoreOperations restore{catalogue, runner, files, feedback, queues};
-    OptionsOperations options{catalogue, runner, files, feedback, queues};
+    OperationServices services{.catalogue = catalogue,
+                               .runner = runner,
+                               .files = files,
+                               .changes = files,
+                               .feedback = feedback,
+                               .queues = queues};
+    BackupOperations backup{services};
+    RestoreOperations restore{services};
+    OptionsOperations options{services};
 
     const BackupItem& item(const std::string& key) const { return *catalogue.find(key); }
 };

@@ -3,6 +3,7 @@
 #include <utility>
 #include <vector>
 
+#include "mail/MailMessage.h"
 #include "platform/mail/Mailer.h"
 
 namespace tarnwick::testing {
@@ -10,6 +11,12 @@ namespace tarnwick::testing {
 // Writes down what it is asked for and answers when the test says so.
 class RecordingMailer : public Mailer {
 public:
+    QStringList recipientsIn(const QString& text) const override {
+        QStringList recipients;
+        for (const std::string& recipient : tarnwick::recipientsIn(text.toStdString()))
+            recipients.append(QString::fromStdString(recipient));
+        return recipients;
+    }
     bool isRecipient(const QString& text) const override {
         return text.contains('@') && !text.endsWith('@');
     }

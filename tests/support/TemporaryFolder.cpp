@@ -40,7 +40,7 @@ void TemporaryFolder::putEveryArchive() const {
     for (const std::string_view folder : paths::safeguardFolders)
         fs::create_directories(path_ + std::string(folder));
     for (const BackupItem& item : ItemCatalogue())
-        for (const std::string& archive : item.archivePaths)
+        for (const std::string& archive : item.archivePaths())
             put(archive, "zip");
 }
 

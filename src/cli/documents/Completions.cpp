@@ -2,6 +2,8 @@
 
 #include "cli/CommandTable.h"
 #include "cli/documents/Fragments.h"
+#include "core/Characters.h"
+#include "core/JoinedText.h"
 
 namespace tarnwick {
 
@@ -17,22 +19,15 @@ std::string quoted(const std::string& text) {
     return result + "'";
 }
 
-std::string joined(const Words& words, const std::string& separator = " ") {
-    std::string text;
-    for (const std::string& word : words)
-        text += (text.empty() ? "" : separator) + word;
-    return text;
-}
-
 // "[KEY]=VALUE", as the tables of bash and zsh are written.
 std::string cell(const std::string& key, const std::string& value) {
     return "[" + key + "]=" + quoted(value);
 }
 
-// What an option's value may be; none if that is the person's to know.
+// The possible values of an option; empty if any will do.
 Words valuesOf(const Option& option) {
     Words values;
-    const bool isFree = option.values.find_first_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ") == 0;
+    const bool isFree = !option.values.empty() && isCapital(option.values.front());
     for (std::size_t start = 0; !isFree && start < option.values.size();) {
         const std::size_t end = std::min(option.values.find('|', start), option.values.size());
         values.push_back(option.values.substr(start, end - start));
@@ -45,7 +40,7 @@ bool takesValue(const Option& option) {
     return option.take != nullptr;
 }
 
-// How many words may follow; none is worth saying twice.
+// How many words may follow; each makes sense once only.
 std::string most(const Command& command) {
     return std::to_string(std::min(command.mostWords, command.words.size()));
 }
@@ -55,7 +50,7 @@ std::string zshOption(const Option& option) {
     const std::string purpose = "[" + option.purpose + "]";
     if (takesValue(option))
         return quoted("*" + option.word + "=" + purpose + ":" + option.word.substr(2) + ":(" +
-                      joined(valuesOf(option)) + ")");
+                      joined(valuesOf(option), " ") + ")");
     if (option.shortWord.empty())
         return quoted(option.word + purpose);
     return quoted("(" + option.shortWord + " " + option.word + ")" + option.shortWord + purpose) +
@@ -65,7 +60,7 @@ std::string zshOption(const Option& option) {
 std::string fishOption(const Option& option) {
     const std::string letter = option.shortWord.empty() ? "" : " -s " + option.shortWord.substr(1);
     const std::string values =
-        takesValue(option) ? " -x -a " + quoted(joined(valuesOf(option))) : "";
+        takesValue(option) ? " -x -a " + quoted(joined(valuesOf(option), " ")) : "";
     return "complete -c tarnwick -l " + option.word.substr(2) + letter + values + " -d " +
            quoted(option.purpose);
 }
@@ -77,7 +72,7 @@ std::string fishCommand(const Command& command) {
 
 std::string fishWords(const Command& command) {
     return "complete -c tarnwick -n '__tarnwick_takes_word " + command.name + " " + most(command) +
-           "' -a " + quoted("(__tarnwick_rest " + joined(command.words) + ")");
+           "' -a " + quoted("(__tarnwick_rest " + joined(command.words, " ") + ")");
 }
 
 void addCommands(Fragments& fragments, const ItemCatalogue& catalogue) {
@@ -88,13 +83,13 @@ void addCommands(Fragments& fragments, const ItemCatalogue& catalogue) {
         fish.push_back(fishCommand(command));
         if (command.words.empty())
             continue;
-        words.push_back(cell(command.name, joined(command.words)));
+        words.push_back(cell(command.name, joined(command.words, " ")));
         counts.push_back(cell(command.name, most(command)));
         fish.push_back(fishWords(command));
     }
-    fragments["COMMAND_NAMES"] = joined(names);
+    fragments["COMMAND_NAMES"] = joined(names, " ");
     fragments["WORDS"] = joined(words, "\n        ");
-    fragments["MOST_WORDS"] = joined(counts);
+    fragments["MOST_WORDS"] = joined(counts, " ");
     fragments["ZSH_COMMANDS"] = joined(described, "\n        ");
     fragments["FISH_COMMANDS"] = joined(fish, "\n");
 }
@@ -110,11 +105,11 @@ void addOptions(Fragments& fragments) {
         if (!takesValue(option))
             continue;
         withValue.push_back(option.word);
-        values.push_back(cell(option.word, joined(valuesOf(option))));
+        values.push_back(cell(option.word, joined(valuesOf(option), " ")));
     }
-    fragments["OPTION_NAMES"] = joined(names);
-    fragments["OPTIONS_WITH_VALUE"] = joined(withValue);
-    fragments["OPTION_VALUES"] = joined(values);
+    fragments["OPTION_NAMES"] = joined(names, " ");
+    fragments["OPTIONS_WITH_VALUE"] = joined(withValue, " ");
+    fragments["OPTION_VALUES"] = joined(values, " ");
     fragments["ZSH_OPTIONS"] = joined(zsh, " \\\n        ");
     fragments["FISH_OPTIONS"] = joined(fish, "\n");
 }

@@ -4,20 +4,14 @@
 #include "cli/CommandTable.h"
 #include "cli/Words.h"
 #include "cli/documents/Fragments.h"
+#include "core/Characters.h"
+#include "core/JoinedText.h"
 
 namespace tarnwick {
 
 namespace {
 
-bool isLetter(char character) {
-    return std::isalpha(static_cast<unsigned char>(character)) != 0;
-}
-
-bool isCapital(char character) {
-    return std::isupper(static_cast<unsigned char>(character)) != 0;
-}
-
-// Text as it stands, for the page's language.
+// Text with the page language's escapes.
 std::string plain(const std::string& text) {
     std::string result;
     for (const char character : text)
@@ -62,19 +56,17 @@ std::string withoutLastLineEnd(std::string text) {
     return text;
 }
 
-// The words that neither the synopsis nor the list of the items names.
+// The words that neither the synopsis nor the list of items contains.
 std::string furtherWords(const Command& command, const std::vector<std::string>& items) {
-    std::string text;
-    for (const std::string& word : command.words) {
-        const bool isNamed = command.synopsis.find(word) != std::string::npos ||
-                             std::find(items.begin(), items.end(), word) != items.end();
-        if (!isNamed)
-            text += (text.empty() ? "\nOne of " : ", ") + inFont('B', word);
-    }
-    return text.empty() ? "" : text + ".";
+    std::vector<std::string> further;
+    for (const std::string& word : command.words)
+        if (command.synopsis.find(word) == std::string::npos &&
+            std::ranges::find(items, word) == items.end())
+            further.push_back(inFont('B', word));
+    return further.empty() ? "" : "\nOne of " + joined(further, ", ") + ".";
 }
 
-// What is typed first, and what follows it, if anything does.
+// A word and what follows it.
 std::string usage(const std::string& word, const std::string& synopsis) {
     return synopsis.empty() ? usage(word) : usage(word) + " " + usage(synopsis);
 }
@@ -92,13 +84,10 @@ std::string commandEntries(const ItemCatalogue& catalogue) {
 std::string itemEntries(const ItemCatalogue& catalogue) {
     std::string text;
     for (const BackupItem& item : catalogue) {
-        std::string folders;
-        for (const std::string& folder : item.sourcePaths) {
-            if (!folders.empty())
-                folders += ",\n";
-            folders += inFont('I', folder);
-        }
-        text += entry(inFont('B', kebabCase(item.key)), folders);
+        std::vector<std::string> folders;
+        for (const std::string& folder : item.sourcePaths)
+            folders.push_back(inFont('I', folder));
+        text += entry(inFont('B', kebabCase(item.key)), joined(folders, ",\n"));
     }
     return text;
 }

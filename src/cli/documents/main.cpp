@@ -1,5 +1,5 @@
-// Writes a man page or a shell's completions from a template, the command's tables, and texts that
-// are given by name.
+// Writes a man page or a shell's completions from a template, the command's tables, and named texts
+// from its own command line.
 #include <algorithm>
 #include <fstream>
 #include <iostream>
@@ -12,7 +12,6 @@ using namespace tarnwick;
 
 namespace {
 
-// Of "NAME=TEXT" each.
 Fragments givenFragments(const std::vector<std::string>& given) {
     Fragments fragments;
     for (const std::string& one : given) {
@@ -39,7 +38,7 @@ int fail(const std::string& fault) {
 
 int main(int count, char** values) {
     if (count < 3)
-        return fail("say TEMPLATE OUTPUT [NAME=TEXT]...");
+        return fail("usage: tarnwick-documents TEMPLATE OUTPUT [NAME=TEXT]...");
     std::ifstream input(values[1]);
     if (!input)
         return fail(std::string(values[1]) + " cannot be read");

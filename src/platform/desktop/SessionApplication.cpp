@@ -5,9 +5,9 @@
 #include <QDBusConnectionInterface>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QRegularExpression>
 #include <utility>
 
+#include "core/StartToken.h"
 #include "platform/desktop/ShortcutItem.h"
 
 namespace tarnwick {
@@ -31,19 +31,16 @@ QString objectPath(const QString& id) {
     return '/' + QString(id).replace('.', '/').replace('-', '_');
 }
 
-bool isToken(const QString& text) {
-    static const QRegularExpression token("^[A-Za-z0-9._:/+=@ -]{1,256}$");
-    return token.match(text).hasMatch();
-}
-
 QVariantMap tokenOfThisStart() {
-    const QString token = qEnvironmentVariable(tokenVariable);
-    return isToken(token) ? QVariantMap{{tokenName, token}} : QVariantMap();
+    const QByteArray token = qgetenv(tokenVariable);
+    return isStartToken(token.toStdString()) ? QVariantMap{{tokenName, QString::fromUtf8(token)}}
+                                             : QVariantMap();
 }
 
 void takeToken(const QVariantMap& data) {
-    if (const QString token = data.value(tokenName).toString(); isToken(token))
-        qputenv(tokenVariable, token.toUtf8());
+    const std::string token = data.value(tokenName).toString().toStdString();
+    if (isStartToken(token))
+        qputenv(tokenVariable, QByteArray::fromStdString(token));
 }
 
 }  // namespace

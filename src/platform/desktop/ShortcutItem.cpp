@@ -1,6 +1,6 @@
 #include "platform/desktop/ShortcutItem.h"
 
-#include <algorithm>
+#include "core/Characters.h"
 
 namespace tarnwick {
 
@@ -8,15 +8,10 @@ namespace {
 
 constexpr std::size_t longestName = 64;
 
-bool isPlain(char character) {
-    return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z') ||
-           (character >= '0' && character <= '9') || character == '-';
-}
-
 }  // namespace
 
 bool isActionName(std::string_view text) {
-    return !text.empty() && text.size() <= longestName && std::ranges::all_of(text, isPlain);
+    return text.size() <= longestName && consistsOf(text, "-");
 }
 
 }  // namespace tarnwick

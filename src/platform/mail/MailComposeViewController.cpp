@@ -2,7 +2,6 @@
 
 #include <QLocale>
 #include <QQuickWindow>
-#include <QRegularExpression>
 #include <QTextDocumentFragment>
 #include <algorithm>
 #include <utility>
@@ -26,12 +25,6 @@ const Alert draftQuestion = {.title = "Delete or Keep Draft",
                              .cancelButtonTitle = "Cancel",
                              .otherButtonTitles = {"Delete Draft", "Save Draft"},
                              .kind = AlertKind::Question};
-
-// Addresses stand between commas, semicolons or blanks.
-QStringList recipientsIn(const QString& text) {
-    static const QRegularExpression between(QStringLiteral("[,;\\s]+"));
-    return text.split(between, Qt::SkipEmptyParts);
-}
 
 QString sizeText(const QByteArray& data) {
     if (data.isNull())
@@ -117,7 +110,7 @@ void MailComposeViewController::keepFocusSeen() {
 
 ComposedMail MailComposeViewController::written() const {
     ComposedMail mail = preset_;
-    mail.recipients = recipientsIn(recipientsField_->property("text").toString());
+    mail.recipients = mailer_.recipientsIn(recipientsField_->property("text").toString());
     // One line, whatever was pasted.
     mail.subject = subjectField_->property("text").toString().simplified();
     mail.body = bodyField_->property("text").toString();

@@ -30,6 +30,8 @@ public:
     using Answer = std::function<void(const std::optional<QString>& fault)>;
 
     virtual ~Mailer() = default;
+    // The recipients in a text that was typed.
+    virtual QStringList recipientsIn(const QString& text) const = 0;
     virtual bool isRecipient(const QString& text) const = 0;
     virtual void send(const ComposedMail& mail, Answer whenDone) = 0;
     virtual void keepDraft(const ComposedMail& mail, Answer whenDone) = 0;

@@ -1,4 +1,4 @@
-#include "core/CommandSurroundings.h"
+#include "core/CommandEnvironment.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -20,14 +20,12 @@ void fillStandardDescriptors() {
 
 bool prepareForCommands() {
     fillStandardDescriptors();
-    // A handler, as commands would inherit an ignored signal but start with the default instead of
-    // a handler.
+    // A handler rather than SIG_IGN, which commands would inherit.
     std::signal(SIGPIPE, [](int) {});
-    // The caller's wishes for other uses of these tools would make archives that no restore can
-    // use.
-    for (const char* wishes : {"ZIP", "ZIPOPT", "UNZIP", "UNZIPOPT"})
-        ::unsetenv(wishes);
-    // One copy line has a target that counts on this.
+    // Options that the caller set for these tools could make archives that no restore can use.
+    for (const char* options : {"ZIP", "ZIPOPT", "UNZIP", "UNZIPOPT"})
+        ::unsetenv(options);
+    // One copy line has a relative target.
     return ::chdir("/") == 0;
 }
 
