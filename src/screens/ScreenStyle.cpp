@@ -19,7 +19,7 @@ QColor lightGray() {
 }  // namespace
 
 void styleHeading(QQuickItem* heading) {
-    Layer layer = Layer::of(heading);
+    Layer& layer = Layer::of(heading);
     layer.setBorderWidth(borderWidth);
     layer.setCornerRadius(cornerRadius);
     layer.setMasksToBounds(true);
@@ -27,7 +27,7 @@ void styleHeading(QQuickItem* heading) {
 }
 
 void styleButton(QQuickItem* button) {
-    Layer layer = Layer::of(button);
+    Layer& layer = Layer::of(button);
     layer.setBorderWidth(borderWidth);
     layer.setCornerRadius(cornerRadius);
     button->setProperty("captionColor", QColor(Qt::white));

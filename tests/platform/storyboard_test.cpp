@@ -233,7 +233,7 @@ TEST(Layer, DrawsFillBorderAndShadowBehindItsView) {
     window.resize(100, 100);
     QQuickItem view(window.contentItem());
     view.setPosition({30, 30});
-    Layer layer = Layer::of(&view);
+    Layer& layer = Layer::of(&view);
     layer.setBackgroundColor(Qt::red);
     layer.setBorderColor(Qt::blue);
     layer.setBorderWidth(2);

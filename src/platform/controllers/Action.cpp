@@ -1,21 +1,16 @@
 #include "platform/controllers/Action.h"
 
+#include "platform/motion/Attachment.h"
+
 namespace tarnwick {
-
-namespace {
-
-constexpr const char* name = "action";
-
-}  // namespace
 
 Action::Action(QQuickItem* button, std::function<void()> act)
     : QObject(button), act_(std::move(act)) {
-    setObjectName(name);
     connect(button, SIGNAL(clicked()), this, SLOT(perform()));
 }
 
 void Action::set(QQuickItem* button, std::function<void()> act) {
-    delete button->findChild<Action*>(name, Qt::FindDirectChildrenOnly);
+    delete findAttachment<Action>(button);
     new Action(button, std::move(act));
 }
 

@@ -2,15 +2,15 @@
 
 #include <QCoreApplication>
 
+#include "platform/motion/Attachment.h"
+
 namespace tarnwick {
 
 namespace {
 
 class LookHolder : public QObject {
 public:
-    static constexpr const char* name = "navigation bar look";
-
-    explicit LookHolder(QObject* application) : QObject(application) { setObjectName(name); }
+    using QObject::QObject;
 
     NavigationBarLook look;
 };
@@ -23,12 +23,7 @@ void BarButtonItem::press() const {
 }
 
 NavigationBarLook& NavigationBarLook::ofApplication() {
-    QObject* application = QCoreApplication::instance();
-    auto* holder = static_cast<LookHolder*>(
-        application->findChild<QObject*>(LookHolder::name, Qt::FindDirectChildrenOnly));
-    if (holder == nullptr)
-        holder = new LookHolder(application);
-    return holder->look;
+    return attachmentOf<LookHolder>(QCoreApplication::instance()).look;
 }
 
 }  // namespace tarnwick

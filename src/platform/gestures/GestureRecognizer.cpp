@@ -6,23 +6,18 @@
 #include <cmath>
 #include <utility>
 
+#include "platform/motion/Attachment.h"
+
 namespace tarnwick {
 
 namespace {
 
-// The recognisers of a view, as a child of it: they go with the view.
-class Attachments : public QObject {
+// The recognisers of a view.
+class Recognizers : public QObject {
 public:
-    explicit Attachments(QQuickItem* view) : QObject(view) {}
+    using QObject::QObject;
 
-    static Attachments* of(const QQuickItem* view) {
-        for (QObject* child : view->children())
-            if (auto* attachments = dynamic_cast<Attachments*>(child))
-                return attachments;
-        return nullptr;
-    }
-
-    std::vector<QPointer<GestureRecognizer>> recognizers;
+    std::vector<QPointer<GestureRecognizer>> all;
 };
 
 }  // namespace
@@ -106,29 +101,26 @@ bool GestureRecognizer::agreesToRunWith(GestureRecognizer& other) {
 }
 
 void addGestureRecognizer(QQuickItem* view, GestureRecognizer* recognizer) {
-    Attachments* attachments = Attachments::of(view);
-    if (attachments == nullptr)
-        attachments = new Attachments(view);
-    auto& recognizers = attachments->recognizers;
+    auto& recognizers = attachmentOf<Recognizers>(view).all;
     std::erase(recognizers, nullptr);
     if (std::find(recognizers.begin(), recognizers.end(), recognizer) == recognizers.end())
         recognizers.emplace_back(recognizer);
 }
 
 void removeGestureRecognizer(QQuickItem* view, GestureRecognizer* recognizer) {
-    if (Attachments* attachments = Attachments::of(view))
-        std::erase(attachments->recognizers, recognizer);
+    if (auto* recognizers = findAttachment<Recognizers>(view))
+        std::erase(recognizers->all, recognizer);
     if (recognizer->touchedView_ == view)
         recognizer->cancel();
 }
 
 std::vector<GestureRecognizer*> gestureRecognizersOf(const QQuickItem* view) {
-    std::vector<GestureRecognizer*> recognizers;
-    if (const Attachments* attachments = Attachments::of(view))
-        for (const auto& recognizer : attachments->recognizers)
+    std::vector<GestureRecognizer*> alive;
+    if (const auto* recognizers = findAttachment<Recognizers>(view))
+        for (const auto& recognizer : recognizers->all)
             if (recognizer)
-                recognizers.push_back(recognizer);
-    return recognizers;
+                alive.push_back(recognizer);
+    return alive;
 }
 
 }  // namespace tarnwick

@@ -1,5 +1,7 @@
 #include "platform/motion/Frames.h"
 
+#include "platform/motion/Attachment.h"
+
 namespace tarnwick {
 
 namespace {
@@ -8,25 +10,17 @@ namespace {
 class Filling : public QObject {
 public:
     Filling(QQuickItem* superview, QQuickItem* view) : QObject(view) {
-        setObjectName(name);
         const auto fill = [superview, view] { view->setSize(superview->size()); };
         connect(superview, &QQuickItem::widthChanged, this, fill);
         connect(superview, &QQuickItem::heightChanged, this, fill);
         fill();
     }
-
-    static void endFor(QQuickItem* view) {
-        delete view->findChild<QObject*>(name, Qt::FindDirectChildrenOnly);
-    }
-
-private:
-    static constexpr const char* name = "filling";
 };
 
 }  // namespace
 
 void addFillingSubview(QQuickItem* superview, QQuickItem* view) {
-    Filling::endFor(view);
+    delete findAttachment<Filling>(view);
     view->setParentItem(superview);
     view->setPosition({0, 0});
     new Filling(superview, view);
@@ -40,7 +34,7 @@ void pinToWidth(QQuickItem* content, const QQuickItem* view) {
 }
 
 void removeFromSuperview(QQuickItem* view) {
-    Filling::endFor(view);
+    delete findAttachment<Filling>(view);
     view->setParentItem(nullptr);
 }
 

@@ -5,45 +5,50 @@
 #include <QQmlEngine>
 #include <QQmlExpression>
 
+#include "platform/motion/Attachment.h"
 #include "platform/views/QmlEngine.h"
 
 namespace tarnwick {
 
 namespace {
 
-// Qt has no public C++ for describing an item; QML's attached properties are it. This object's
-// context knows them by name. It belongs to the engine.
-QObject* describer() {
-    static constexpr const char* name = "accessibility describer";
-    QQmlEngine& engine = applicationQmlEngine();
-    if (auto* known = engine.findChild<QObject*>(name, Qt::FindDirectChildrenOnly))
-        return known;
-    QQmlComponent component(&engine);
-    component.setData(
-        "import QtQuick\n"
-        "QtObject { property int role; property string name; property string description }",
-        QUrl());
-    QObject* object = component.create();
-    if (object == nullptr)
-        qFatal("The QML module QtQuick is not installed as it should be: %s",
-               qPrintable(component.errorString()));
-    object->setParent(&engine);
-    object->setObjectName(name);
-    return object;
-}
+// Qt describes an item through QML's attached properties only, and has no public C++ for them. An
+// expression sets them from an object that holds the words.
+class Describer : public QObject {
+public:
+    explicit Describer(QQmlEngine* engine) : QObject(engine) {
+        QQmlComponent component(engine);
+        component.setData(
+            "import QtQuick\n"
+            "QtObject { property int role; property string name; property string description }",
+            QUrl());
+        words_ = component.create();
+        if (words_ == nullptr)
+            qFatal("The QML module QtQuick is not installed correctly: %s",
+                   qPrintable(component.errorString()));
+        words_->setParent(this);
+    }
+
+    void describe(QQuickItem* item, QAccessible::Role role, const QString& name,
+                  const QString& description) {
+        words_->setProperty("role", static_cast<int>(role));
+        words_->setProperty("name", name);
+        words_->setProperty("description", description);
+        QQmlExpression expression(qmlContext(words_), item,
+                                  "Accessible.role = role; Accessible.name = name; "
+                                  "Accessible.description = description");
+        expression.evaluate();
+    }
+
+private:
+    QObject* words_;
+};
 
 }  // namespace
 
 void describe(QQuickItem* item, QAccessible::Role role, const QString& name,
               const QString& description) {
-    QObject* words = describer();
-    words->setProperty("role", static_cast<int>(role));
-    words->setProperty("name", name);
-    words->setProperty("description", description);
-    QQmlExpression expression(qmlContext(words), item,
-                              "Accessible.role = role; Accessible.name = name; "
-                              "Accessible.description = description");
-    expression.evaluate();
+    attachmentOf<Describer>(&applicationQmlEngine()).describe(item, role, name, description);
 }
 
 }  // namespace tarnwick

@@ -1,5 +1,6 @@
 #include "platform/views/Layer.h"
 
+#include "platform/motion/Attachment.h"
 #include "platform/motion/Frames.h"
 #include "platform/views/QmlEngine.h"
 
@@ -7,63 +8,44 @@ namespace tarnwick {
 
 namespace {
 
-constexpr const char* rectangleName = "layer";
-constexpr const char* shadowName = "layer's shadow";
-
 // Below the view's own content, and the shadow below that.
 constexpr double rectangleDepth = -1;
 constexpr double shadowDepth = -2;
 
-// Puts the item behind the view's content, as its child.
-void addBehind(QQuickItem* view, QQuickItem* item, const char* name, double depth) {
+void addBehind(QQuickItem* view, QQuickItem* item, double depth) {
     item->setParent(view);
-    item->setObjectName(name);
     item->setZ(depth);
     addFillingSubview(view, item);
 }
 
-template <class Item>
-Item* known(const QQuickItem* view, const char* name) {
-    return view->findChild<Item*>(name, Qt::FindDirectChildrenOnly);
-}
-
 }  // namespace
 
-Layer Layer::of(QQuickItem* view) {
-    if (known<QQuickItem>(view, rectangleName) == nullptr)
-        addBehind(view, createQmlItem(QStringLiteral("LayerRectangle"), view), rectangleName,
-                  rectangleDepth);
-    return Layer(view);
+Layer& Layer::of(QQuickItem* view) {
+    return attachmentOf<Layer>(view);
 }
 
-QQuickItem* Layer::rectangle() const {
-    return known<QQuickItem>(view_, rectangleName);
-}
-
-// Made when there is a shadow to see.
-ShadowView* Layer::shadowView() const {
-    auto* shadow = known<ShadowView>(view_, shadowName);
-    if (shadow == nullptr) {
-        shadow = new ShadowView(view_);
-        addBehind(view_, shadow, shadowName, shadowDepth);
-    }
-    return shadow;
+Layer::Layer(QQuickItem* view)
+    : QObject(view),
+      view_(view),
+      rectangle_(createQmlItem(QStringLiteral("LayerRectangle"), view)) {
+    rectangle_->setObjectName("layer");
+    addBehind(view, rectangle_, rectangleDepth);
 }
 
 void Layer::setBorderWidth(double width) {
-    rectangle()->setProperty("borderWidth", width);
+    rectangle_->setProperty("borderWidth", width);
 }
 
 void Layer::setBorderColor(const QColor& color) {
-    rectangle()->setProperty("borderColor", color);
+    rectangle_->setProperty("borderColor", color);
 }
 
 void Layer::setCornerRadius(double radius) {
-    rectangle()->setProperty("radius", radius);
+    rectangle_->setProperty("radius", radius);
 }
 
 void Layer::setBackgroundColor(const QColor& color) {
-    rectangle()->setProperty("color", color);
+    rectangle_->setProperty("color", color);
 }
 
 void Layer::setMasksToBounds(bool masks) {
@@ -71,7 +53,11 @@ void Layer::setMasksToBounds(bool masks) {
 }
 
 void Layer::setShadow(const Shadow& shadow) {
-    shadowView()->setShadow(shadow);
+    if (shadow_ == nullptr) {
+        shadow_ = new ShadowView(view_);
+        addBehind(view_, shadow_, shadowDepth);
+    }
+    shadow_->setShadow(shadow);
 }
 
 }  // namespace tarnwick

@@ -7,12 +7,16 @@
 
 namespace tarnwick {
 
-// What is drawn behind a view's own content: fill, border, rounded corners, shadow. As large as the
-// view, whatever its size becomes. Lengths in points. Main thread.
-class Layer {
+// What is drawn behind a view's own content: fill, border, rounded corners, shadow. It follows the
+// view's size and goes with the view. Lengths in points. Main thread.
+class Layer : public QObject {
+    Q_OBJECT
+
 public:
-    // The view's layer; made, with nothing to see, on the first call. It goes with the view.
-    static Layer of(QQuickItem* view);
+    // The view's layer; made, with nothing to see, on the first call.
+    static Layer& of(QQuickItem* view);
+
+    explicit Layer(QQuickItem* view);
 
     void setBorderWidth(double width);
     void setBorderColor(const QColor& color);
@@ -25,12 +29,9 @@ public:
     void setShadow(const Shadow& shadow);
 
 private:
-    explicit Layer(QQuickItem* view) : view_(view) {}
-
-    QQuickItem* rectangle() const;
-    ShadowView* shadowView() const;
-
     QQuickItem* view_;
+    QQuickItem* rectangle_;
+    ShadowView* shadow_ = nullptr;  // made when there is one to see
 };
 
 }  // namespace tarnwick

@@ -5,6 +5,8 @@
 #include <QQmlEngine>
 #include <utility>
 
+#include "platform/motion/Attachment.h"
+
 // What a library holds is linked in only if something asks for it.
 extern void qml_register_types_Tarnwick();
 static void initializeResources() {
@@ -13,16 +15,20 @@ static void initializeResources() {
 
 namespace tarnwick {
 
+namespace {
+
+class ApplicationEngine : public QQmlEngine {
+public:
+    explicit ApplicationEngine(QObject* application) : QQmlEngine(application) {
+        initializeResources();
+        addImportPath(QStringLiteral("qrc:/qt/qml"));
+    }
+};
+
+}  // namespace
+
 QQmlEngine& applicationQmlEngine() {
-    static constexpr const char* name = "application engine";
-    QObject* application = QCoreApplication::instance();
-    if (auto* known = application->findChild<QQmlEngine*>(name, Qt::FindDirectChildrenOnly))
-        return *known;
-    initializeResources();
-    auto* engine = new QQmlEngine(application);
-    engine->setObjectName(name);
-    engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
-    return *engine;
+    return attachmentOf<ApplicationEngine>(QCoreApplication::instance());
 }
 
 QQuickItem* createQmlItem(const QString& typeName, QQuickItem* parent, QVariantMap properties) {
