@@ -18,7 +18,7 @@ Page {
             width: Math.max(40, Math.min(96, Math.round(page.height * 0.15)))
             height: width
             name: "cloud"
-            color: Look.blue
+            color: Look.tint
         }
     }
 

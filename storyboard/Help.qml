@@ -7,7 +7,7 @@ Page {
         topPadding: 10
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
-        color: Look.blue
+        color: Look.tint
         font { pixelSize: Look.headline - 1; bold: true }
 
         Accessible.role: Accessible.Heading

@@ -8,6 +8,7 @@
 #include "platform/controllers/NavigationBar.h"
 #include "platform/desktop/IdleTimer.h"
 #include "platform/windows/Window.h"
+#include "screens/ScreenStyle.h"
 
 namespace tarnwick {
 
@@ -24,7 +25,7 @@ QFont titleFont() {
 
 void setNavigationBarLook() {
     NavigationBarLook& look = NavigationBarLook::ofApplication();
-    look.barTint = Look::blue();
+    look.barTint = programBlue();
     look.itemTint = Qt::white;
     look.titleColor = Qt::white;
     look.titleShadowColor = QColor::fromRgbF(0, 0, 0, 0.8F);
@@ -53,6 +54,7 @@ bool hasQuickActions(const std::optional<std::string>& model) {
 
 bool AppDelegate::applicationDidFinishLaunchingWithOptions(const LaunchOptions& options) {
     setIdleTimerDisabled(&window_);
+    Look::setTint(programBlue());
     setNavigationBarLook();
     routeLaunch(options);
     return true;

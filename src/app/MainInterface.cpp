@@ -6,6 +6,7 @@
 #include "mail/CloudViewController.h"
 #include "options/OptionsViewController.h"
 #include "restore/RestoreViewController.h"
+#include "screens/Symbols.h"
 #include "ui/reveal/RevealSegues.h"
 
 // Referred to, so that the linker takes the scenes from their library.
@@ -38,6 +39,7 @@ StoryboardClasses classesFor(const ScreenServices& services) {
 
 std::shared_ptr<const Storyboard> loadMainStoryboard(const ScreenServices& services) {
     qml_register_types_Tarnwick_Storyboard();
+    addProgramSymbols();
     return Storyboard::load(QUrl("qrc:/qt/qml/Tarnwick/Storyboard/MainStoryboard.qml"),
                             classesFor(services));
 }

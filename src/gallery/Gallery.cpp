@@ -18,6 +18,7 @@ namespace tarnwick {
 namespace {
 
 constexpr double busyTime = 3.0;  // seconds
+constexpr QColor blue(0, 122, 255);
 
 // A screen that opens the menu by its button and by a drag.
 class ScreenController : public ViewController {
@@ -50,9 +51,10 @@ StoryboardClasses classes() {
     return classes;
 }
 
-void setBarLook() {
+void setLook() {
+    Look::setTint(blue);
     NavigationBarLook& look = NavigationBarLook::ofApplication();
-    look.barTint = Look::blue();
+    look.barTint = blue;
     look.itemTint = Qt::white;
     look.titleColor = Qt::white;
     look.titleFont.setPixelSize(21);
@@ -62,7 +64,7 @@ void setBarLook() {
 
 Gallery::Gallery(Animated animated) : animated_(animated) {
     qml_register_types_Tarnwick_Gallery();
-    setBarLook();
+    setLook();
     resize(375, 667);
     setTitle("Gallery");
     const auto storyboard =

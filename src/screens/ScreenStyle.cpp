@@ -2,7 +2,6 @@
 
 #include <limits>
 
-#include "platform/controllers/Look.h"
 #include "platform/views/Layer.h"
 
 namespace tarnwick {
@@ -18,6 +17,10 @@ QColor lightGray() {
 
 }  // namespace
 
+QColor programBlue() {
+    return QColor::fromRgbF(0, 122 / 255.0F, 1);
+}
+
 void styleHeading(QQuickItem* heading) {
     Layer& layer = Layer::of(heading);
     layer.setBorderWidth(borderWidth);
@@ -31,8 +34,8 @@ void styleButton(QQuickItem* button) {
     layer.setBorderWidth(borderWidth);
     layer.setCornerRadius(cornerRadius);
     button->setProperty("captionColor", QColor(Qt::white));
-    layer.setBackgroundColor(Look::blue());
-    layer.setBorderColor(Look::blue());
+    layer.setBackgroundColor(programBlue());
+    layer.setBorderColor(programBlue());
 }
 
 void fillLabel(QQuickItem* label, const QString& text) {

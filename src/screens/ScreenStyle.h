@@ -1,10 +1,14 @@
 // The style of elements on all screens. Main thread.
 #pragma once
 
+#include <QColor>
 #include <QQuickItem>
 #include <QString>
 
 namespace tarnwick {
+
+// Of bars, and of buttons' fills and borders.
+QColor programBlue();
 
 // A framed section heading.
 void styleHeading(QQuickItem* heading);

@@ -2,6 +2,7 @@
 
 #include <QFontInfo>
 #include <QGuiApplication>
+#include <QPalette>
 #include <algorithm>
 #include <cmath>
 
@@ -18,8 +19,14 @@ int scaled(int pixels) {
 
 }  // namespace
 
-QColor Look::blue() {
-    return QColor::fromRgbF(0, 122 / 255.0F, 1);
+QColor Look::tint() {
+    return QGuiApplication::palette().color(QPalette::Highlight);
+}
+
+void Look::setTint(const QColor& color) {
+    QPalette palette = QGuiApplication::palette();
+    palette.setColor(QPalette::Highlight, color);
+    QGuiApplication::setPalette(palette);
 }
 
 double Look::textScale() {

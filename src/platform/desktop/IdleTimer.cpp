@@ -4,6 +4,7 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QGuiApplication>
 #include <QWindow>
 #include <optional>
 #include <utility>
@@ -39,7 +40,7 @@ private:
 
     void inhibit() {
         auto message = call("Inhibit");
-        message << QStringLiteral("Tarnwick") << QStringLiteral("In front");
+        message << QGuiApplication::applicationDisplayName() << QStringLiteral("In front");
         auto* answer =
             new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(message), this);
         connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {

@@ -1,8 +1,8 @@
 import QtQuick
 import Tarnwick
 
-// A push button: filled with the program's blue. Other looks replace its caption's colour and its
-// background. It has no look of its own for being disabled: all buttons under an alert are.
+// A push button: filled with the application's tint. Other looks replace the caption's colour and
+// the background. It looks the same while it is disabled, as every button under an alert is.
 BareButton {
     id: button
 
@@ -26,6 +26,6 @@ BareButton {
 
     background: Rectangle {
         radius: 5
-        color: button.pressed ? Qt.darker(Look.blue, 1.25) : Look.blue
+        color: button.pressed ? Qt.darker(Look.tint, 1.25) : Look.tint
     }
 }

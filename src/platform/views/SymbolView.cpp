@@ -1,18 +1,18 @@
 #include "platform/views/SymbolView.h"
 
+#include <QCoreApplication>
+#include <QHash>
 #include <QPainter>
-#include <QPainterPath>
-#include <map>
-#include <utility>
+
+#include "platform/motion/Attachment.h"
 
 namespace tarnwick {
 
 namespace {
 
-constexpr double extent = 24.0;  // points, each way; the drawings are made for it
 constexpr double lineWidth = 2.0;
 
-// Three lines, as on the buttons that open menus.
+// Three lines, for a button that opens a menu.
 QPainterPath menu() {
     QPainterPath path;
     for (const double y : {6.0, 12.0, 18.0}) {
@@ -22,94 +22,26 @@ QPainterPath menu() {
     return path;
 }
 
-// A tray with an arrow that goes into it.
-QPainterPath trayWithArrow(double tip, double tail) {
-    const double barb = tip > tail ? tip - 4 : tip + 4;
-    QPainterPath path;
-    path.moveTo(12, tail);
-    path.lineTo(12, tip);
-    path.moveTo(8, barb);
-    path.lineTo(12, tip);
-    path.lineTo(16, barb);
-    path.moveTo(3, 15);
-    path.lineTo(3, 20);
-    path.lineTo(21, 20);
-    path.lineTo(21, 15);
-    return path;
-}
+// The drawings that are known, by their names.
+class Symbols : public QObject {
+public:
+    using QObject::QObject;
 
-QPainterPath backup() {
-    return trayWithArrow(15, 3);
-}
+    QHash<QString, QPainterPath> drawings = {{"menu", menu()}};
+};
 
-QPainterPath restore() {
-    return trayWithArrow(3, 15);
-}
-
-QPainterPath cloud() {
-    QPainterPath path;
-    path.moveTo(7, 19);
-    path.arcTo(2, 10, 9, 9, 270, -180);
-    path.arcTo(6, 5, 10, 10, 150, -120);
-    path.arcTo(13, 9, 9, 10, 100, -190);
-    path.closeSubpath();
-    return path;
-}
-
-// Three sliders.
-QPainterPath options() {
-    const std::pair<double, double> knobs[] = {{6, 15}, {12, 8}, {18, 16}};  // y and x
-    QPainterPath path;
-    for (const auto& [y, x] : knobs) {
-        path.moveTo(3, y);
-        path.lineTo(x - 2.5, y);
-        path.addEllipse(QPointF(x, y), 2.5, 2.5);
-        path.moveTo(x + 2.5, y);
-        path.lineTo(21, y);
-    }
-    return path;
-}
-
-// A question mark in a circle.
-QPainterPath help() {
-    QPainterPath path;
-    path.addEllipse(QPointF(12, 12), 9, 9);
-    path.moveTo(9.2, 9.6);
-    path.arcTo(9.2, 6.8, 5.6, 5.6, 180, -225);
-    path.quadTo(12, 13, 12, 14.4);
-    path.moveTo(12, 17.2);
-    path.lineTo(12, 17.3);
-    return path;
-}
-
-// The program's own sign.
-QPainterPath shield() {
-    QPainterPath path;
-    path.moveTo(12, 2.5);
-    path.lineTo(20, 5.5);
-    path.lineTo(20, 11);
-    path.cubicTo(20, 16.5, 16.5, 20, 12, 21.5);
-    path.cubicTo(7.5, 20, 4, 16.5, 4, 11);
-    path.lineTo(4, 5.5);
-    path.closeSubpath();
-    path.moveTo(8.2, 11.8);
-    path.lineTo(11, 14.6);
-    path.lineTo(16, 9.2);
-    return path;
-}
-
-QPainterPath drawingOf(const QString& name) {
-    static const std::map<QString, QPainterPath (*)()> drawings = {
-        {"menu", menu},       {"backup", backup}, {"restore", restore}, {"cloud", cloud},
-        {"options", options}, {"help", help},     {"shield", shield}};
-    const auto drawing = drawings.find(name);
-    return drawing == drawings.end() ? QPainterPath() : drawing->second();
+QHash<QString, QPainterPath>& drawings() {
+    return attachmentOf<Symbols>(QCoreApplication::instance()).drawings;
 }
 
 }  // namespace
 
+void addSymbol(const QString& name, const QPainterPath& drawing) {
+    drawings()[name] = drawing;
+}
+
 SymbolView::SymbolView(QQuickItem* parent) : QQuickPaintedItem(parent) {
-    setImplicitSize(extent, extent);
+    setImplicitSize(symbolExtent, symbolExtent);
 }
 
 void SymbolView::setName(const QString& name) {
@@ -130,9 +62,9 @@ void SymbolView::setColor(const QColor& color) {
 
 void SymbolView::paint(QPainter* painter) {
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->scale(width() / extent, height() / extent);
+    painter->scale(width() / symbolExtent, height() / symbolExtent);
     painter->setPen(QPen(color_, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter->drawPath(drawingOf(name_));
+    painter->drawPath(drawings().value(name_));
 }
 
 }  // namespace tarnwick

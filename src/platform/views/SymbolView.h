@@ -1,11 +1,19 @@
 #pragma once
 
 #include <QColor>
+#include <QPainterPath>
 #include <QQuickPaintedItem>
 #include <QString>
 #include <QtQmlIntegration>
 
 namespace tarnwick {
+
+// Points, each way: the square that drawings of symbols are made for.
+inline constexpr double symbolExtent = 24.0;
+
+// Makes a line drawing known to all symbol views of the application. "menu" is known already. Main
+// thread.
+void addSymbol(const QString& name, const QPainterPath& drawing);
 
 // A small line drawing in one colour, sharp at every size. An unknown name draws nothing. Main
 // thread.

@@ -7,7 +7,7 @@ TextEdit {
     wrapMode: TextEdit.Wrap
     font.pixelSize: Look.headline
     color: "black"
-    selectionColor: Look.blue
+    selectionColor: Look.tint
     selectByMouse: true
     activeFocusOnTab: true
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Tarnwick
 
-// A button in an alert's panel: a caption in the program's blue, under a separator.
+// A button in an alert's panel: a caption in the application's tint, under a separator.
 PushButton {
     id: button
 
@@ -9,7 +9,7 @@ PushButton {
     required property int index
 
     width: panel.sideBySide ? panel.width / 2 : panel.width
-    captionColor: Look.blue
+    captionColor: Look.tint
     focusRingRadius: 10
     font.bold: index === 0
     // The alert moves the focus: in the order in which buttons stand there.
