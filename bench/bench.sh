@@ -21,7 +21,7 @@ time_of() {
     echo $((${EPOCHREALTIME/./} - start))
 }
 
-# Reads numbers; prints the lowest, the median and the highest.
+# Reads numbers; prints minimum, median and maximum.
 spread() {
     sort -n | awk '{ v[NR] = $1 } END { print v[1], v[int((NR + 1) / 2)], v[NR] }'
 }

@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # Starting a device: the namespaces around it.
 
-# Real paths: links of the host lead nowhere once the device has its own root.
+# Resolved, as links of the host are dangling once the device has its own root.
 DEVICE_BUILD=$(realpath --canonicalize-missing -- "${DEVICE_BUILD:-$here/../build/release}")
 DEVICE_SHARE=${DEVICE_SHARE:+$(realpath -- "$DEVICE_SHARE")}
 export DEVICE_BUILD DEVICE_SHARE
@@ -12,14 +12,14 @@ require_model_library() {
 }
 
 # run_device DIRECTORY USER [COMMAND...]
-# Only one run at a time may change the device's own programs, as no folder can be the upper one of two overlays. Whoever
-# waits for the run's end holds the lock.
+# Only one run at a time may change the device's own programs, as two overlays cannot share an upper folder. The process
+# that waits for the run holds the lock.
 run_device() {
     start_device "$@" 9<"$1/device"
 }
 
-# The terminal of the caller never gets onto a device: whoever holds one can type into it. A terminal of the device's own
-# stands between, or none.
+# The device never gets the caller's terminal, as a process that has it open can type into it. The device gets a terminal
+# of its own in between, or none.
 start_device() {
     local start=(setpriv --pdeathsig KILL --) options programs=fixed
     ! flock --nonblock 9 || programs=changeable
@@ -38,7 +38,7 @@ run_at_terminal() {
         script --quiet --return --flush --command "$(printf '%q ' "$@")" /dev/null
 }
 
-# Hands the caller's interrupt on. Any other signal that ends this shell ends the device too: unshare would sit it out.
+# Passes the caller's interrupt on. Any other signal that ends this shell ends the device too, as unshare would ignore it.
 run_in_session() {
     local session status
     env --default-signal=INT,QUIT setpriv --pdeathsig KILL -- setsid "$@" <&0 &

@@ -1,17 +1,17 @@
 # shellcheck shell=bash
-# What of its caller's surroundings a device gets: the sockets of the display, the session bus and the accessibility bus,
+# What a device gets from its caller's environment: the sockets of the display, the session bus and the accessibility bus,
 # and a few settings by name. Everything else stays outside. Used by power_on, which plans the mounts.
 
 environment=()
 declare -A caller=()
 
-# Remembers a socket or folder of the host by its real path, which links cannot bend after the pivot.
+# Records a socket or folder of the host by its real path, which no link can redirect after the pivot.
 remember() {
     [[ -e $2 ]] || return 0
     caller[$1]=$(realpath "$2")
 }
 
-# The path in a D-Bus address, nothing for other kinds of address: the device has no network, abstract sockets included.
+# The path in a D-Bus address; empty for other kinds, as the device has no network, which includes abstract sockets.
 bus_path() {
     [[ $1 =~ (^|;)unix:path=([^,;]+) ]] || return 0
     printf '%s\n' "${BASH_REMATCH[2]}"
@@ -68,7 +68,7 @@ plan_display() {
     environment+=("XAUTHORITY=$runtime/Xauthority")
 }
 
-# The bus itself tells programs where the accessibility bus is, hence the same path as outside.
+# At the same path as outside, as the session bus announces it.
 plan_accessibility_folder() {
     local folder=${caller[accessibility_folder]}
     [[ $folder == /run/* || $folder == /tmp/* ]] || return 0
@@ -102,7 +102,7 @@ plan_caller_sockets() {
     plan_buses
 }
 
-# No variable of the caller's but these reaches the device.
+# The device gets no other variable of the caller.
 collect_environment() {
     local name
     environment=(

@@ -1,19 +1,19 @@
 # shellcheck shell=bash
-# Making devices, wiping them and taking them away. A device is a folder:
+# Making, wiping and deleting devices. A device is a folder:
 #   device                        marks the folder as a device
 #   var etc Applications sbin     what the device sees under these names
-#   usr                           what of the programs under /usr is the device's own; the rest is the workstation's
-#   work                          what an overlay needs beside its upper folder, which usr is
-#   log                           what happened on it; no wipe loses it
-#   model                         the name of its model, where it has one
-#   repository                    the packages that its sources offer, as a server would
+#   usr                           the device's own programs under /usr; the rest are the workstation's
+#   work                          the overlay's work folder; usr is its upper folder
+#   log                           what happened on it; a wipe keeps it
+#   model                         the name of its model, if it has one
+#   repository                    the packages that its sources offer
 #   factory.tar                   var, etc, Applications, sbin and usr as a wipe and a new jailbreak leave them
-#   root                          where its file system is put together
+#   root                          where its file system is assembled
 
 device_folders=(var etc Applications sbin usr)
 safeguard=var/mobile/Library/Preferences/Tarnwick
 
-# What is in the folder when anything fails belongs to users whose files an ordinary user cannot remove.
+# After a failure the folder may hold files of other users, which an ordinary user cannot remove directly.
 remove_device() {
     as_device_root rm -rf --one-file-system -- "$1"
 }
@@ -24,7 +24,7 @@ write_log() {
 
 lay_out() {
     local directory=$1
-    # What is set-user-ID on the device is so for the host's other users as well.
+    # Set-user-ID programs of the device would be so for the host's other users as well.
     chmod 700 "$directory"
     echo 'Tarnwick sample device' >"$directory/device"
     : >"$directory/log"
@@ -60,7 +60,7 @@ list_offered_folders() {
     done
 }
 
-# A device may be older than the folder of its own programs.
+# Older devices lack the folder of their own programs.
 complete_device() {
     [[ -d $1/usr ]] || make_program_folders "$1"
 }
@@ -80,7 +80,7 @@ fill_device() {
     [[ -z $3 ]] || printf '%s\n' "$3" >"$directory/model"
 }
 
-# new_device DIRECTORY MEGABYTES MODEL: leaves nothing when it fails.
+# new_device DIRECTORY MEGABYTES MODEL: leaves nothing if it fails.
 new_device() {
     local directory
     mkdir -- "$1" || fail "$1 cannot be made"
@@ -93,7 +93,7 @@ new_device() {
     trap - EXIT INT TERM
 }
 
-# The safeguard folder is not moved meanwhile: whatever interrupts a wipe, it is where it was.
+# The safeguard folder is never moved, so an interrupted wipe cannot lose it.
 empty_device() {
     as_device_root env --chdir="$1" find "${device_folders[@]}" -mindepth 1 \
         ! -path "$safeguard" ! -path "$safeguard/*" \

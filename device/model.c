@@ -15,7 +15,7 @@ static int isNameCharacter(char character)
         || (character >= '0' && character <= '9') || (character != '\0' && strchr(",._-", character) != NULL);
 }
 
-// The length of the name that the text is, up to a line end; 0 when it is no name.
+// The length of the name at the start of the text, up to a line end; 0 if it is not a valid name.
 static size_t nameLength(const char *text)
 {
     size_t length = 0;
@@ -24,7 +24,7 @@ static size_t nameLength(const char *text)
     return text[length] == '\0' || text[length] == '\n' ? length : 0;
 }
 
-// Reads the model's name; leaves an empty text when there is none.
+// Reads the model's name; leaves an empty text if the device has none.
 static void readModel(char *text, size_t size)
 {
     const int file = open(modelFile, O_RDONLY | O_CLOEXEC);
@@ -35,13 +35,13 @@ static void readModel(char *text, size_t size)
     text[nameLength(text)] = '\0';
 }
 
-// Replaces the system's function. Only the machine changes; without a usable name nothing does.
+// Replaces the system's function. Changes the machine only, and nothing without a usable name.
 int uname(struct utsname *name)
 {
     if (syscall(SYS_uname, name) != 0)
         return -1;
     const int savedError = errno;
-    // One byte more than a machine may have shows a name that is too long.
+    // One byte longer than a machine's name may be, to detect one that is too long.
     char model[sizeof name->machine + 1];
     readModel(model, sizeof model);
     if (model[0] != '\0' && strlen(model) < sizeof name->machine)

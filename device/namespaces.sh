@@ -1,8 +1,8 @@
 # shellcheck shell=bash
-# How root on a device is got: root is taken as it is; an ordinary user gets a user namespace in which the user is root
-# and the other users of the device are ids that /etc/subuid and /etc/subgid lend, so that chown is real there too.
+# Root on a device: root itself, or for an ordinary user a user namespace in which the user is root and the other users of
+# the device are ids from /etc/subuid and /etc/subgid, so that chown is real there too.
 
-# Prints the options for unshare, one a line; none for root.
+# Prints the options for unshare, one a line; nothing for root.
 user_namespace() {
     ((EUID != 0)) || return 0
     command -v newuidmap >/dev/null ||
@@ -15,7 +15,7 @@ user_namespace() {
     printf '%s\n' --user --map-root-user --map-auto
 }
 
-# Runs a command that may read, give away and delete what belongs to the device's users.
+# Runs a command that may read, chown and delete the files of the device's users.
 as_device_root() {
     local options
     options=$(user_namespace)

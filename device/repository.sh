@@ -1,8 +1,8 @@
 # shellcheck shell=bash
-# The packages that a device's source offers, as a server would: DIR/repository with its list, Packages. Those in its
-# folder workstation are without files: they stand for packages of the workstation, whose programs the device has anyway.
+# The packages that a device's source offers: DIR/repository with its list, Packages. Those in its folder workstation have
+# no files: they stand for packages of the workstation, whose programs the device has anyway.
 
-# The mode of a checkout's files depends on who made it; a package's must not.
+# The umask of the checkout must not affect the package.
 build_package() {
     local name=${1##*/} staging=$2/staging
     cp -R --no-preserve=mode,ownership "$1" "$staging"
@@ -10,7 +10,7 @@ build_package() {
     rm -rf "$staging"
 }
 
-# The names of all packages that those of the repository need or could do with instead.
+# The names of all packages that those of the repository depend on, alternatives included.
 needed_names() {
     local package
     for package in *.deb; do
@@ -31,7 +31,7 @@ workstation_packages() {
         --showformat '${db:Status-Status}|${Package}|${Version}|${Architecture}|${Multi-Arch}|${Provides}\n'
 }
 
-# Those of them that are needed and not offered.
+# Those of them that are needed but not offered.
 packages_to_stand_for() {
     {
         needed_names | sed 's/^/needed|/'
@@ -54,7 +54,7 @@ describe_stand_in() {
     echo "Description: stands for the workstation's own"
 }
 
-# Anew each time: what the workstation has may have changed, and what stood for a package must not outdo it.
+# Made afresh each time: the workstation may have changed, and a stand-in must not hide a package that is offered now.
 stand_for_workstation() {
     local tree=workstation/tree name version architecture sharing others
     rm -rf workstation
@@ -74,7 +74,7 @@ describe_package() {
     printf 'Filename: ./%s\nSize: %s\nSHA256: %s\n\n' "$1" "$(stat --format %s "$1")" "${digest%% *}"
 }
 
-# Whoever reads the list meanwhile gets the old one or the new one.
+# Replaced at once, as a run may be reading it.
 list_packages() {
     local package
     for package in *.deb workstation/*.deb; do
@@ -99,13 +99,13 @@ build_repository() {
     renew_repository "$1"
 }
 
-# A version's epoch is no part of it. Fails when the file is no package, or not all of one.
+# The version goes without its epoch. Fails if the file is not a complete package.
 package_file_name() {
     dpkg-deb --contents "$1" >/dev/null &&
         dpkg-deb --show --showformat '${Package}_${Version}_${Architecture}.deb' "$1" | sed 's/_[0-9]*:/_/'
 }
 
-# offer_packages REPOSITORY FILE...: all of them or, where one is no package, none.
+# offer_packages REPOSITORY FILE...: all of them, or none if one is not a package.
 offer_packages() {
     local repository=$1 file name names=()
     shift

@@ -1,4 +1,4 @@
-# A program that runs as root is built to stop at a fault rather than to go on with it.
+# A program that runs as root should abort on a fault rather than continue.
 include(CheckCXXCompilerFlag)
 include(CheckIPOSupported)
 include(CheckPIESupported)
@@ -8,7 +8,7 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 check_ipo_supported(LANGUAGES CXX)
 set(CMAKE_INTERPROCEDURAL_OPTIMIZATION ON)
 
-# Not every processor has each of them.
+# Not every architecture supports each of them.
 function(tarnwick_known_flags result)
     set(known)
     foreach(flag IN LISTS ARGN)
@@ -25,6 +25,6 @@ tarnwick_known_flags(stack_and_jumps -fstack-protector-strong -fstack-clash-prot
 add_compile_definitions(_FORTIFY_SOURCE=3 _GLIBCXX_ASSERTIONS)
 add_compile_options(${stack_and_jumps})
 
-# The optimiser would take Qt's objects into the program as copies, while Qt itself goes on with its own.
+# Without it, link-time optimisation copies Qt's objects into the program while Qt uses its own.
 tarnwick_known_flags(no_copies -mno-direct-extern-access)
 add_link_options(${no_copies} LINKER:-z,relro,-z,now,--strip-all)

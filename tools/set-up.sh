@@ -1,8 +1,8 @@
 # shellcheck shell=bash
-# Sourced by ./run, ./test and packaging/build-package: installs what is missing, builds. Needs nothing but a Debian and bash.
+# Sourced by ./run, ./test and packaging/build-package: installs what is missing and builds. Needs only Debian and bash.
 # The caller has set `repository` to the top of the checkout.
 
-# The packages that the list names for a purpose: what `run` needs, all others need as well.
+# The packages for a purpose: every purpose needs those of `run`.
 packages_for() {
     local purpose=$1 package needed_for
     while read -r package needed_for _; do
@@ -60,7 +60,7 @@ install_missing() {
     missing=$(missing_packages "$1" | tr '\n' ' ')
     [ -n "$missing" ] || return 0
     echo "Installing: $missing" >&2
-    # The names are to be split.
+    # Word splitting is intended.
     # shellcheck disable=SC2086
     logged set-up install_packages $missing
 }
@@ -73,7 +73,7 @@ configure_and_build() {
     cmake --build "$repository/build/$preset" --target "${@:-all}"
 }
 
-# Configures a preset where it is new or has changed, and builds it.
+# Configures a preset if it is new or has changed, and builds it.
 build() {
     logged "$1" configure_and_build "$@"
 }

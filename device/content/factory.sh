@@ -13,7 +13,7 @@ make_system_folders() {
     ln -s /run /var/run
 }
 
-# Stand-ins for the applications that a restore stops: all they do is be there under their names.
+# Stand-ins for the applications that a restore stops: they do nothing but run under their names.
 make_applications() {
     local name
     for name in MobileCal MobilePhone Contacts MobileSMS MobileNotes MobileSlideShow MobileSafari MobileCydia Cydia \

@@ -3,7 +3,7 @@
 
 umask 022
 
-# Copies a tree over the device. A file NAME.sql in it is what is to happen to the database NAME.
+# Copies a tree over the device. A file NAME.sql in it is applied to the database NAME.
 lay_down() {
     local script
     cp -R --no-preserve=mode "/mnt/share/$1/." /
@@ -19,7 +19,7 @@ give_to_owners() {
     chmod 600 /var/mobile/Library/Accounts/*
 }
 
-# dpkg accepts a selection only for a package that it has heard of.
+# dpkg accepts a selection only for a package that it knows.
 update_package_lists() {
     apt-get --quiet=2 update
     apt-cache dumpavail | dpkg --merge-avail >/dev/null

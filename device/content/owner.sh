@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
 # What the owner of the sample device added to it.
-#   owner.sh MEGABYTES    how much the photos amount to, beside a few small ones
+#   owner.sh MEGABYTES    the size of the photos, besides a few small ones
 set -euo pipefail
 # shellcheck source=device/content/layer.sh
 source /mnt/share/layer.sh
 
 camera_roll=/var/mobile/Media/DCIM
 
-# Files with the first bytes of their kind and noise after them, which no archive makes smaller.
+# Files with the magic number of their kind followed by noise, which does not compress.
 make_jpeg() {
     {
         printf '\xff\xd8\xff\xe0\x00\x10JFIF\x00\x01\x01\x00\x00\x01\x00\x01\x00\x00'
@@ -57,7 +57,7 @@ make_awkward_files() {
     make_png "$library/AddressBook/Images/Jürgen Groß.png" 2000
 }
 
-# make_photos MEGABYTES: pictures of two megabytes each, the last one of an odd number half of that.
+# make_photos MEGABYTES: pictures of two megabytes each; for an odd number the last one has one.
 make_photos() {
     local size number=0 megabytes=$1
     mkdir -p "$camera_roll/101APPLE"
@@ -69,7 +69,7 @@ make_photos() {
     done
 }
 
-# Before the sources that lead nowhere from a device without a network.
+# Before the sources that a device without a network cannot reach.
 install_packages org.example.{lantern,dockclock,tidepool,ringtones}
 lay_down owner
 make_pictures

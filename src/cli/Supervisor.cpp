@@ -13,7 +13,7 @@ namespace tarnwick {
 
 namespace {
 
-// How long commands that were told to end may take to tidy up before they are killed.
+// How long commands may take to tidy up after SIGTERM before they are killed.
 constexpr std::chrono::seconds tidyingTime(5);
 constexpr struct timespec shortWhile = {0, 20'000'000};  // nanoseconds
 

@@ -21,7 +21,7 @@ struct Alert {
     std::string message;
     std::string cancelButtonTitle = "Close";     // button index 0, which does nothing
     std::vector<std::string> otherButtonTitles;  // button indexes from 1
-    int tag = 0;                                 // tells its maker which alert was answered
+    int tag = 0;                                 // identifies the alert to whoever made it
     AlertKind kind = AlertKind::Result;
 };
 

@@ -1,4 +1,4 @@
-// The fixed places on the device. The user can choose none of them.
+// The fixed paths on the device, which the user cannot change.
 #pragma once
 
 #include <array>
@@ -30,7 +30,7 @@ inline constexpr std::string_view cydiaAptList = "/etc/apt/sources.list.d/cydia.
 
 // Scratch space: staging copies that may not lie in the safeguard folder, unpacked archives.
 inline constexpr std::string_view scratchFolder = "/var/tmp/";
-// Where an unpacked archive stands: every archive holds paths that begin with "var/".
+// What an archive unpacks to: all paths in an archive begin with "var/".
 inline constexpr std::string_view unpackedTree = "/var/tmp/var";
 
 // The partition whose size and free space are shown.

@@ -18,7 +18,7 @@ bool isContinuation(unsigned byte) {
     return (byte & 0xC0U) == 0x80U;
 }
 
-// What the first byte of a character tells: its length in bytes, and the range of the second one.
+// What the first byte of a character implies: its length in bytes, and the range of the second one.
 struct Lead {
     std::size_t length;
     unsigned lowest = 0x80;
@@ -37,7 +37,7 @@ Lead leadOf(unsigned byte) {
     return {4, byte == 0xF0 ? 0x90U : 0x80U, byte == 0xF4 ? 0x8FU : 0xBFU};
 }
 
-// Bytes of the newline character at the position; 0 where there is none.
+// Length in bytes of the newline character at the position; 0 if it is another character.
 std::size_t newlineLength(std::string_view text, std::size_t position) {
     const unsigned byte = byteAt(text, position);
     if (byte >= 0x0A && byte <= 0x0D)

@@ -1,7 +1,7 @@
 import QtQuick
 import Tarnwick
 
-// Fourteen buttons that scroll.
+// Buttons that scroll.
 Rectangle {
     property BarButtonItem leftBarButtonItem: BarButtonItem {
         objectName: "sidebarButton"

@@ -10,7 +10,7 @@
 #include "ui/hud/ProgressHUD.h"
 #include "ui/reveal/RevealSegues.h"
 
-// What a library holds is linked in only if something asks for it.
+// Referred to, so that the linker takes the scenes from their library.
 extern void qml_register_types_Tarnwick_Gallery();
 
 namespace tarnwick {

@@ -11,21 +11,21 @@ namespace tarnwick {
 
 class ProgressHUD;
 
-// A window with a reveal container: its menu lists the scenes, and a screen with buttons is in
-// front for them to stand over.
+// A window with a reveal container whose menu lists the scenes; they appear over a screen with
+// buttons.
 class Gallery : public Window {
     Q_OBJECT
 
 public:
-    // Scenes come at once, and stay, where nobody is to watch them move.
+    // Without animation, for pictures, scenes appear at once and stay.
     explicit Gallery(Animated animated);
     ~Gallery() override;
 
     Animated animated() const { return animated_; }
     RevealViewController& reveal() const { return *reveal_; }
-    // A HUD over the front screen; it goes after a few seconds where scenes move.
+    // A HUD over the front screen; with animation it hides itself after a few seconds.
     ProgressHUD* showHud(int animationType = 0);
-    // One without a button goes like a HUD.
+    // An alert without a button goes away like a HUD.
     void showAlert(const Alert& alert);
     void push();
 

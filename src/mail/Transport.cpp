@@ -72,7 +72,7 @@ int spawn(pid_t& process, const std::string& program, const MemoryFile& message,
     return error;
 }
 
-// Also true where the system cannot tell: waiting then takes as long as it takes.
+// Also true where the system cannot tell; the caller then waits without a limit.
 bool endsWithin(pid_t process, std::chrono::milliseconds limit) {
     const Descriptor end(static_cast<int>(::syscall(SYS_pidfd_open, process, 0)));
     if (!end.isOpen())

@@ -53,8 +53,8 @@ private:
     void startRestoreAllInOne();
 };
 
-// How an offer is put: the end of the message, the button (none without an offer), and the tag of
-// its alert.
+// How an alert presents an offer: the end of the message, the button if there is an offer, and the
+// tag.
 struct OfferWords {
     std::string question = {};
     std::vector<std::string> buttons = {};
