@@ -1,5 +1,6 @@
-#include <algorithm>
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 #include "restore/RestoreOperations.h"
 #include "support/Operations.h"
