@@ -41,6 +41,7 @@ tarnwick_test(cli_test
 
 # Tests of items and windows: with a loop and a clock of their own, without a display.
 set(ui_tests
+    app/buttons_test.cpp
     app/quick_actions_test.cpp
     app/screens_test.cpp
     platform/alert_test.cpp

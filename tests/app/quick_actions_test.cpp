@@ -1,21 +1,12 @@
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
-
 #include "app/AppDelegate.h"
-#include "app/MainInterface.h"
 #include "app/QuickActions.h"
 #include "app/StartOptions.h"
 #include "core/SafeguardPaths.h"
-#include "platform/controllers/NavigationController.h"
-#include "platform/windows/AlertView.h"
-#include "platform/windows/Window.h"
-#include "support/Diary.h"
 #include "support/Events.h"
 #include "support/Finger.h"
-#include "support/KeptLog.h"
-#include "support/RecordingMailer.h"
-#include "support/SteppedClock.h"
+#include "support/ProgramWindow.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -27,22 +18,9 @@ public:
     std::optional<std::string> model;
 };
 
-// The program in a phone's window, whose queues and runner are the test's.
-class QuickActionsTest : public ::testing::Test {
+class QuickActionsTest : public ProgramWindow {
 protected:
-    QuickActionsTest() {
-        window.resize(375, 667);
-        window.setRootViewController(
-            loadMainStoryboard(services)->instantiateInitialViewController());
-        window.show();
-        QCoreApplication::processEvents();
-    }
-    ~QuickActionsTest() override {
-        window.setRootViewController(nullptr);
-        finishDeletions();
-    }
-
-    void press(const QString& action) {
+    void perform(const QString& action) {
         delegate->applicationPerformActionForShortcutItem(shortcutItem(action), handler);
         diary.entries.clear();  // of what the screen did while it loaded
     }
@@ -56,41 +34,22 @@ protected:
         const auto* root = dynamic_cast<NavigationController*>(window.rootViewController().get());
         return root == nullptr ? QString() : root->rootViewController()->title();
     }
-    // Title, message and buttons of the newest alert.
     std::string alert() {
-        if (window.alerts().numberShown() == 0)
-            return "none";
-        const Alert& alert = window.alerts().top()->alert();
-        return alert.title + ": " + alert.message + " [" + alert.cancelButtonTitle + "]";
-    }
-    void answerAlert() {
-        emit window.alerts().top()->buttonPressed(0);
-        clock.advance(0.5);
+        return window.alerts().numberShown() == 0 ? "none" : textOf(window.alerts().top()->alert());
     }
     void noteAlertsAtEachCommand() {
         runner.act = [this](const std::string&) { seenByCommands.push_back(alert()); };
     }
 
-    TemporaryFolder folder;
-    Diary diary;
-    SteppedClock clock;
-    ItemCatalogue catalogue;
-    RecordingRunner runner{diary};
-    RecordingFileManager files{diary, folder};
-    SteppedQueues queues{diary};
-    RecordingMailer mailer;
-    KeptLog log;
-    Window window;
-    ScreenServices services = {catalogue, runner, files, queues, window.alerts(), mailer, log};
     std::shared_ptr<Delegate> delegate = std::make_shared<Delegate>(window, services);
     int handled = 0;
     std::function<void(bool)> handler = [this](bool) { ++handled; };
     std::vector<std::string> seenByCommands;
 };
 
-const std::string notice = ": Backup in progress... []";
-const std::string sourcesDone = "Cydia Backup: Backup done ! [Close]";
-const std::string allDone = "All in One Backup: Backup done ! [Close]";
+const std::string notice = ": Backup in progress... [] #0";
+const std::string sourcesDone = "Cydia Backup: Backup done ! [Close] #0";
+const std::string allDone = "All in One Backup: Backup done ! [Close] #0";
 const std::string selections =
     "run: dpkg --get-selections > "
     "/var/mobile/Library/Preferences/Tarnwick/CydiaPackages/installed-packages.txt";
@@ -100,7 +59,7 @@ TEST_F(QuickActionsTest, SaveSavesPackagesAndThenSourcesBehindANotice) {
     folder.put(std::string(paths::ownAptList), "two\n");
     queues.mainIsFaster = true;
     noteAlertsAtEachCommand();
-    press("save");
+    perform("save");
     EXPECT_EQ(screenAlone(), "Backup");
     EXPECT_EQ(alert(), "none");
     runAll();
@@ -109,12 +68,12 @@ TEST_F(QuickActionsTest, SaveSavesPackagesAndThenSourcesBehindANotice) {
     EXPECT_EQ(folder.content(saved), "one\n\n\ntwo\n");
     EXPECT_EQ(seenByCommands, Entries{notice});
     EXPECT_EQ(alert(), sourcesDone);
-    answerAlert();
+    answerAlert(0);
     EXPECT_EQ(alert(), "none");
 }
 
 TEST_F(QuickActionsTest, SaveWithoutACacheKeepsCydiasListAndTellsSuccessOfNothing) {
-    press("save");
+    perform("save");
     runAll();
     EXPECT_EQ(diary.changes(),
               (Entries{selections, "copy: " + std::string(paths::cydiaAptList) + " to " +
@@ -125,34 +84,23 @@ TEST_F(QuickActionsTest, SaveWithoutACacheKeepsCydiasListAndTellsSuccessOfNothin
 TEST_F(QuickActionsTest, SaveAllDoesTheWorkOfAllInOneAndNoneOfItsTests) {
     queues.mainIsFaster = true;
     noteAlertsAtEachCommand();
-    press("save-all");
+    perform("save-all");
     EXPECT_EQ(screenAlone(), "Backup");
     runAll();
     EXPECT_EQ(diary.entries, changesIn(literalEvents().at("save all")));
     EXPECT_EQ(seenByCommands, Entries(seenByCommands.size(), notice));
     EXPECT_EQ(alert(), allDone);
-    answerAlert();
+    answerAlert(0);
     EXPECT_EQ(alert(), "none");
 }
 
-TEST_F(QuickActionsTest, AlertsGoThroughTheMainQueueInThreeStepsAndInTwo) {
-    press("save");
-    queues.stepGlobal();
-    EXPECT_EQ(queues.waitingOnMain(), 3U);
-    queues.stepMain();
-    press("save-all");
-    queues.stepGlobal();
-    EXPECT_EQ(queues.waitingOnMain(), 2U);
-    queues.stepMain();
-}
-
 TEST_F(QuickActionsTest, TwoSavesOverlapAndEachTakesItsOwnNoticeAway) {
-    press("save");
-    press("save-all");
+    perform("save");
+    perform("save-all");
     runAll();
     EXPECT_EQ(window.alerts().numberShown(), 2);
     EXPECT_EQ(alert(), allDone);
-    answerAlert();
+    answerAlert(0);
     EXPECT_EQ(alert(), sourcesDone);
 }
 
@@ -160,12 +108,12 @@ TEST_F(QuickActionsTest, ScreensReplaceAllThatWasThereEvenUnderAFinger) {
     Finger finger(window, clock);
     finger.press({20, 300});
     finger.move({200, 300});
-    press("restore");
+    perform("restore");
     finger.move({300, 300});
     finger.lift();
     clock.advance(1.0);
     EXPECT_EQ(screenAlone(), "Restore");
-    press("options");
+    perform("options");
     EXPECT_EQ(screenAlone(), "Options");
     EXPECT_EQ(alert(), "none");
     EXPECT_EQ(log.lines,
@@ -174,7 +122,7 @@ TEST_F(QuickActionsTest, ScreensReplaceAllThatWasThereEvenUnderAFinger) {
 }
 
 TEST_F(QuickActionsTest, AnUnknownActionIsOnlyLogged) {
-    press("Save");
+    perform("Save");
     EXPECT_EQ(log.lines, "A shortcut item was pressed. It was Save.\n");
     EXPECT_EQ(screenAlone(), "");
     queues.stepGlobal();
@@ -183,7 +131,7 @@ TEST_F(QuickActionsTest, AnUnknownActionIsOnlyLogged) {
 
 TEST_F(QuickActionsTest, NoCompletionHandlerIsEverCalled) {
     for (const char* action : {"unknown", "save", "save-all", "restore", "options"}) {
-        press(action);
+        perform(action);
         runAll();
     }
     EXPECT_EQ(handled, 0);

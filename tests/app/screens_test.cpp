@@ -3,87 +3,33 @@
 #include <QQuickItem>
 #include <QTest>
 
-#include "app/AppDelegate.h"
 #include "app/DeviceModel.h"
-#include "app/MainInterface.h"
 #include "app/SidebarViewController.h"
-#include "core/SystemFileManager.h"
-#include "core/SystemLog.h"
-#include "platform/controllers/NavigationController.h"
 #include "platform/threads/PlatformQueues.h"
-#include "platform/windows/AlertView.h"
-#include "platform/windows/Window.h"
 #include "screens/TaskScreen.h"
+#include "support/Events.h"
 #include "support/Finger.h"
-#include "support/LineRecorder.h"
-#include "support/RecordingMailer.h"
-#include "support/TemporaryFolder.h"
-#include "ui/reveal/RevealViewController.h"
+#include "support/Operations.h"
+#include "support/ProgramWindow.h"
 
 namespace tarnwick::testing {
 namespace {
 
-// Whatever QML complains about fails the test that is running.
-void failOnWarning(QtMsgType type, const QMessageLogContext& context, const QString& message) {
-    static_cast<void>(context);
-    if (type == QtWarningMsg && !message.startsWith("QStandardPaths"))
-        ADD_FAILURE() << message.toStdString();
-}
+class ScreensTest : public ProgramWindow {};
 
-// The program in a phone's window, over an empty folder, with a runner that only writes down.
-class ScreensTest : public ::testing::Test {
+// With the threads of the program.
+class ThreadedScreensTest : public ProgramWindow {
 protected:
-    ScreensTest() : files(folder.path()) {
-        qInstallMessageHandler(failOnWarning);
-        window.resize(375, 667);
-        window.show();
-        QCoreApplication::processEvents();
-        delegate->applicationDidFinishLaunchingWithOptions({});
-        reveal = std::static_pointer_cast<RevealViewController>(
-            storyboard->instantiateInitialViewController());
-        window.setRootViewController(reveal);
-    }
-    ~ScreensTest() override {
-        window.setRootViewController(nullptr);
-        reveal.reset();
-        finishDeletions();
-        qInstallMessageHandler(nullptr);
-    }
+    ThreadedScreensTest() : ProgramWindow(&threads) {}
 
-    ViewController& screen() {
-        auto& navigation = static_cast<NavigationController&>(*reveal->frontViewController());
-        return *navigation.rootViewController();
-    }
-    QQuickItem* element(const char* name) { return screen().view()->findChild<QQuickItem*>(name); }
-    void press(const char* name) { QMetaObject::invokeMethod(element(name), "clicked"); }
-    void choose(const QString& row) {
-        reveal->rearViewController()->performSegue(row);
-        clock.advance(1.0);
-    }
-    // The title of the alert that comes, which is then answered.
-    std::string answerAlert(int index) {
+    // The text of the alert that comes, which is then answered.
+    std::string awaitAlert(int index) {
         while (window.alerts().numberShown() == 0)
             QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-        AlertView* alert = window.alerts().top();
-        const std::string title = alert->alert().title;
-        emit alert->buttonPressed(index);
-        clock.advance(0.3);
-        return title;
+        return answerAlert(index);
     }
 
-    TemporaryFolder folder;
-    SystemFileManager files;
-    LineRecorder runner;
-    ItemCatalogue catalogue;
-    SteppedClock clock;
-    Window window;
-    PlatformQueues queues;
-    RecordingMailer mailer;
-    SystemLog log;
-    ScreenServices services = {catalogue, runner, files, queues, window.alerts(), mailer, log};
-    std::shared_ptr<AppDelegate> delegate = std::make_shared<AppDelegate>(window, services);
-    std::shared_ptr<const Storyboard> storyboard = loadMainStoryboard(services);
-    std::shared_ptr<RevealViewController> reveal;
+    PlatformQueues threads;
 };
 
 TEST_F(ScreensTest, EveryScreenLoadsWithoutAWarningAtEverySize) {
@@ -118,49 +64,38 @@ TEST_F(ScreensTest, TheMenuHasItsRowsAndKeepsItsListToItself) {
 }
 
 TEST_F(ScreensTest, LoadingBackupMakesTheSafeguardFoldersBeforeAnyButton) {
-    EXPECT_TRUE(files.exists("/var/mobile/Library/Preferences/Tarnwick/TarnwickLibrary"));
-    EXPECT_TRUE(runner.lines().empty());
-    press("sourcesButton");
-    EXPECT_EQ(answerAlert(0), "Cydia Sources Backup");
+    EXPECT_EQ(diary.changes(), changesIn(literalEvents().at("folders")));
 }
 
-TEST_F(ScreensTest, ATaskCoversItsScreenAndTellsItsResult) {
+TEST_F(ThreadedScreensTest, ATaskCoversItsScreenAndTellsItsResult) {
+    diary.entries.clear();
     press("accountsButton");
     EXPECT_NE(ProgressHUD::HUDForView(screen().view()), nullptr);
-    EXPECT_EQ(answerAlert(0), "Accounts Backup Error");
-    clock.advance(0.4);
+    const Entries events = literalEvents().at("save accounts, nothing zipped");
+    EXPECT_EQ("alert: " + awaitAlert(0), events.back());
     EXPECT_EQ(ProgressHUD::HUDForView(screen().view()), nullptr);
-    EXPECT_EQ(runner.lines().front(),
-              "cp -R /var/mobile/Library/Accounts "
-              "/var/mobile/Library/Preferences/Tarnwick/TarnwickLibrary/");
+    EXPECT_EQ(diary.changes(), changesIn(events));
 }
 
-TEST_F(ScreensTest, AnAnswerFindsItsScreenWhenAnotherOneIsInFront) {
+TEST_F(ThreadedScreensTest, AnAnswerFindsItsScreenWhenAnotherOneIsInFront) {
     choose("restore");
-    files.createDirectory("/var/mobile/Library/Preferences/Tarnwick/TarnwickLibrary");
-    files.writeText("/var/mobile/Library/Preferences/Tarnwick/TarnwickLibrary/Accounts.zip", "");
+    folder.put(library + "Accounts.zip", "");
     press("accountsButton");
     const std::weak_ptr<ViewController> restore = screen().weak_from_this();
     choose("help");
     EXPECT_FALSE(restore.expired());
-    EXPECT_EQ(answerAlert(1), "Accounts Restoration");
-    EXPECT_EQ(runner.lines().back(), "/sbin/reboot");
+    EXPECT_TRUE(awaitAlert(1).starts_with("Accounts Restoration"));
+    EXPECT_EQ(diary.entries.back(), "run: /sbin/reboot");
     finishDeletions();
     EXPECT_TRUE(restore.expired());
 }
 
-TEST_F(ScreensTest, OptionsAsksBeforeItActsAndFillsItsFigures) {
-    files.createDirectory("/private/var");
+TEST_F(ThreadedScreensTest, OptionsFillsItsFigures) {
     choose("options");
     while (element("freeUserMemory")->property("text").toString() == "\u2026")
         QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-    EXPECT_TRUE(element("totalUserMemory")->property("text").toString().endsWith("GB"));
-    press("respringButton");
-    EXPECT_EQ(answerAlert(0), "Respring");
-    EXPECT_TRUE(runner.lines().empty());
-    press("respringButton");
-    answerAlert(1);
-    EXPECT_EQ(runner.lines(), std::vector<std::string>{"killall backboardd"});
+    EXPECT_EQ(element("freeUserMemory")->property("text").toString(), "12.50 GB");
+    EXPECT_EQ(element("totalUserMemory")->property("text").toString(), "64.00 GB");
 }
 
 TEST_F(ScreensTest, TabReachesEveryButtonAndBringsItIntoView) {
@@ -174,12 +109,13 @@ TEST_F(ScreensTest, TabReachesEveryButtonAndBringsItIntoView) {
 }
 
 TEST_F(ScreensTest, TheBackgroundEndsTheProgramAndNothingElseDoes) {
-    LifeCycle lifeCycle(window, *delegate);
+    AppDelegate delegate(window, services);
+    LifeCycle lifeCycle(window, delegate);
+    diary.entries.clear();
     window.setVisible(false);
     window.setVisible(true);
-    EXPECT_EQ(runner.lines(), std::vector<std::string>{"/usr/bin/killall RootTarnwick2"});
     window.close();
-    EXPECT_EQ(runner.lines().size(), 1U);
+    EXPECT_EQ(diary.entries, Entries{"run: /usr/bin/killall RootTarnwick2"});
 }
 
 TEST_F(ScreensTest, AScreenOutsideTheContainerIsNotWired) {

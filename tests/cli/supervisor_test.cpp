@@ -30,7 +30,9 @@ bool comesTrue(Condition condition) {
     return false;
 }
 
+// A process that this one has inherited is taken note of once it has ended.
 bool lives(const std::string& pid) {
+    ::waitpid(std::stoi(pid), nullptr, WNOHANG);
     return ::kill(std::stoi(pid), 0) == 0;
 }
 

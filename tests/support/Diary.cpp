@@ -31,8 +31,19 @@ Entries changesIn(const Entries& entries) {
     return thoseThatStartWith(entries, {"run: ", "remove: ", "copy: ", "create f", "write: "});
 }
 
-Entries Diary::alerts() const {
+std::string textOf(const Alert& alert) {
+    std::string buttons = alert.cancelButtonTitle;
+    for (const std::string& button : alert.otherButtonTitles)
+        buttons += ", " + button;
+    return alert.title + ": " + alert.message + " [" + buttons + "] #" + std::to_string(alert.tag);
+}
+
+Entries alertsIn(const Entries& entries) {
     return thoseThatStartWith(entries, {"alert: "});
+}
+
+Entries Diary::alerts() const {
+    return alertsIn(entries);
 }
 
 int RecordingRunner::run(const std::string& line) {
@@ -81,16 +92,15 @@ std::int64_t RecordingFileManager::fileSystemFreeSize(std::string_view path) con
 
 void RecordingFeedback::show(const Alert& alert) {
     lastAlert = alert;
-    std::string buttons = alert.cancelButtonTitle;
-    for (const std::string& button : alert.otherButtonTitles)
-        buttons += ", " + button;
-    diary_.note("alert: " + alert.title + ": " + alert.message + " [" + buttons + "] #" +
-                std::to_string(alert.tag));
+    diary_.note("alert: " + textOf(alert));
 }
 
 void SteppedQueues::runInBackground(Task task) {
     diary_.note("background thread");
-    task();
+    if (backgroundWaits)
+        global_.push_back(std::move(task));
+    else
+        task();
 }
 
 void SteppedQueues::performOnMainThreadAndWait(Task task) {

@@ -18,9 +18,13 @@ using Entries = std::vector<std::string>;
 
 // The started lines and the changes of files only.
 Entries changesIn(const Entries& entries);
+Entries alertsIn(const Entries& entries);
+
+// "TITLE: MESSAGE [BUTTONS] #TAG"
+std::string textOf(const Alert& alert);
 
 // Lines and changes stand in it as --dry-run prints them ("run: …", "remove: …"); besides these
-// there are "exists: …", "hud: …", "hide", "alert: TITLE: MESSAGE [BUTTONS] #TAG" and the names of
+// there are "exists: …", "hud: …", "hide", "alert: " and its text, and the names of
 // queues.
 struct Diary {
     Entries entries;
@@ -90,7 +94,8 @@ public:
     void stepMain();
     std::size_t waitingOnMain() const { return main_.size(); }
 
-    bool mainIsFaster = false;  // a dispatched task runs before its dispatcher goes on
+    bool backgroundWaits = false;  // as what is dispatched to the global queue
+    bool mainIsFaster = false;     // a dispatched task runs before its dispatcher goes on
 
 private:
     Diary& diary_;

@@ -1,10 +1,20 @@
 #include "support/Events.h"
 
+#include <algorithm>
 #include <fstream>
+
+#include "support/Operations.h"
 
 namespace tarnwick::testing {
 
 namespace {
+
+using Table = std::map<std::string, Entries>;
+
+struct Section {
+    std::string name;
+    Entries lines;
+};
 
 // A line feed within a text stands as "\n" in the table.
 std::string withLineFeeds(std::string line) {
@@ -13,21 +23,162 @@ std::string withLineFeeds(std::string line) {
     return line;
 }
 
-}  // namespace
-
-std::map<std::string, Entries> literalEvents() {
-    std::map<std::string, Entries> table;
+std::vector<Section> readSections() {
+    std::vector<Section> sections;
     std::ifstream file(TARNWICK_EVENTS_FILE);
-    std::string scene;
     for (std::string line; std::getline(file, line);) {
         if (line.empty() || line.front() == '#')
             continue;
         if (line.front() == '[')
-            scene = line.substr(1, line.size() - 2);
+            sections.push_back({line.substr(1, line.size() - 2), {}});
         else
-            table[scene].push_back(withLineFeeds(line));
+            sections.back().lines.push_back(withLineFeeds(line));
     }
+    return sections;
+}
+
+Entries operator+(Entries entries, const Entries& more) {
+    entries.insert(entries.end(), more.begin(), more.end());
+    return entries;
+}
+
+std::string wordAfter(const std::string& line, std::string_view start) {
+    return line.substr(start.size(), line.find(' ', start.size()) - start.size());
+}
+
+// One data set, by the parts of its section.
+struct Item {
+    std::string word;
+    Entries stop;
+    Entries changes;
+    Entries tests;  // for each archive, in their order
+    Entries alert;
+    Entries otherwise;
+};
+
+void addLine(Item& item, const std::string& line) {
+    const std::string archives = "exists: /var/mobile/Library/Preferences/Tarnwick/TarnwickLibrary";
+    if (line.starts_with("run: killall "))
+        item.stop.push_back(line);
+    else if (line.starts_with("alert: "))
+        item.alert.push_back(line);
+    else if (line.starts_with("otherwise: "))
+        item.otherwise.push_back("alert: " + line.substr(11));
+    else
+        item.changes.push_back(line);
+    for (const std::string_view program : {"run: zip -r ", "run: /usr/bin/unzip "})
+        if (line.starts_with(program)) {
+            const std::string archive = wordAfter(line, program);
+            item.tests.push_back(archives + archive.substr(archive.rfind('/')));
+        }
+}
+
+std::vector<Item> itemsOf(const std::string& verb, const std::vector<Section>& sections) {
+    std::vector<Item> items;
+    for (const Section& section : sections) {
+        if (!section.name.starts_with(verb + " ") || section.lines.front().starts_with("hud: "))
+            continue;
+        Item& item = items.emplace_back(Item{.word = section.name.substr(verb.size() + 1)});
+        for (const std::string& line : section.lines)
+            addLine(item, line);
+    }
+    return items;
+}
+
+Entries task(const std::string& hud, const Entries& work, const Entries& end) {
+    return Entries{hud, "background thread"} + work + Entries{"main thread, waiting", "hide"} + end;
+}
+
+// All in one writes one copy command in another way.
+Entries asInAllInOne(Entries changes, const std::string& line) {
+    const std::string copy = line.substr(0, line.rfind(' ') + 1);
+    for (std::string& change : changes)
+        if (change.starts_with(copy))
+            change = line;
+    return changes;
+}
+
+void addSaves(Table& table, const std::vector<Item>& items, const Entries& rules) {
+    const std::string& hud = rules.at(0);
+    Entries changes;
+    Entries tests;
+    Entries failures;
+    for (const Item& item : items) {
+        changes = changes + asInAllInOne(item.changes, rules.at(1));
+        tests = tests + item.tests;
+        for (std::size_t place = 0; place < item.tests.size(); ++place)
+            failures = failures + Entries{item.tests[place], item.otherwise.at(place)};
+        table["save " + item.word] = task(hud, item.changes, item.tests + item.alert);
+        table["save " + item.word + ", nothing zipped"] =
+            task(hud, item.changes, {item.tests.at(0), item.otherwise.at(0)});
+    }
+    table["save all"] = task(hud, changes + tests, {rules.at(2)});
+    table["save all, nothing zipped"] = task(hud, changes + failures, {rules.at(2)});
+}
+
+void addRestores(Table& table, const std::vector<Item>& items, const Entries& rules) {
+    const std::string& hud = rules.at(0);
+    Entries work;
+    Entries tests;
+    for (const Item& item : items) {
+        const Entries test = {item.tests.at(0)};
+        work = work + test + item.stop + item.changes;
+        tests = tests + test;
+        table["restore " + item.word] = task(hud, item.stop + test + item.changes, item.alert);
+        table["restore " + item.word + ", nothing saved"] =
+            task(hud, item.stop + test, item.otherwise);
+    }
+    table["restore all"] = task(hud, work, {rules.at(1)});
+    table["restore all, nothing saved"] = task(hud, tests, {rules.at(1)});
+}
+
+bool isLine(const std::string& change) {
+    return change.starts_with("run: ");
+}
+
+bool removesArchive(const std::string& change) {
+    return change.starts_with("remove: ") && change.ends_with(".zip");
+}
+
+void addSizes(Table& table, const std::vector<Item>& items, const Entries& rules) {
+    for (const Item& item : items) {
+        const Entries start = {rules.at(0), item.tests.at(0)};
+        const auto& changes = item.changes;
+        const auto lines = std::find_if_not(changes.begin(), changes.end(), isLine);
+        const auto archives = std::find_if(lines, changes.end(), removesArchive);
+        table["size " + item.word] = start + Entries(changes.begin(), lines) + item.alert +
+                                     Entries(lines, archives) + Entries{"hide"} +
+                                     Entries(archives, changes.end());
+        table["size " + item.word + ", saved"] = start + item.alert + Entries{"hide"};
+    }
+}
+
+}  // namespace
+
+std::map<std::string, Entries> literalEvents() {
+    const std::vector<Section> sections = readSections();
+    Table table;
+    for (const Section& section : sections)
+        table[section.name] = section.lines;
+    const auto rules = [&table](const char* name) { return table.extract(name).mapped(); };
+    addSaves(table, itemsOf("save", sections), rules("save, all in one"));
+    addRestores(table, itemsOf("restore", sections), rules("restore, all in one"));
+    addSizes(table, itemsOf("size", sections), rules("size, every item"));
     return table;
+}
+
+void setScene(const std::string& scene, const TemporaryFolder& folder, RecordingRunner& runner) {
+    const bool isPlain = scene.find(',') == std::string::npos;
+    if (scene.ends_with(", saved") || (isPlain && scene.starts_with("restore")))
+        folder.putEveryArchive();
+    if (!isPlain)
+        return;
+    folder.put(ownList, "deb");
+    folder.put(savedPackages, "");
+    runner.act = [&folder](const std::string& line) {
+        if (line.starts_with("zip -r "))
+            folder.put(wordAfter(line, "zip -r "), "zip");
+    };
 }
 
 }  // namespace tarnwick::testing
