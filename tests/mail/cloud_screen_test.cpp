@@ -1,63 +1,25 @@
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
 #include <QTest>
 
 #include "cli/InPlaceQueues.h"
 #include "core/SafeguardPaths.h"
-#include "core/SystemFileManager.h"
 #include "mail/CloudViewController.h"
 #include "mail/ComposerMailer.h"
-#include "platform/controllers/NavigationController.h"
-#include "platform/controllers/Storyboard.h"
 #include "platform/windows/ModalPresentation.h"
-#include "platform/windows/Window.h"
 #include "support/Finger.h"
-#include "support/KeptLog.h"
-#include "support/RecordingMailer.h"
-#include "support/SteppedClock.h"
-#include "support/TemporaryFolder.h"
-#include "ui/reveal/RevealViewController.h"
-
-extern void qml_register_types_Tarnwick_Storyboard();
+#include "support/ProgramWindow.h"
 
 namespace tarnwick::testing {
 namespace {
 
-// The Cloud screen in the reveal container, as the menu opens it.
-class CloudScreenTest : public ::testing::Test {
+class CloudScreenTest : public ProgramWindow {
 protected:
-    CloudScreenTest() {
-        qml_register_types_Tarnwick_Storyboard();
-        StoryboardClasses classes;
-        classes.addController("CloudViewController", [this] {
-            return makeViewController<CloudViewController>(files, mailer, log);
-        });
-        classes.addController("NavigationController",
-                              [] { return makeViewController<NavigationController>(); });
-        classes.addSegue<NavigationRootSegue>("NavigationRootSegue");
-        const auto navigation = std::static_pointer_cast<NavigationController>(
-            Storyboard::load(QUrl("qrc:/qt/qml/Tarnwick/Storyboard/MainStoryboard.qml"), classes)
-                ->instantiateViewController("cloudNC"));
-        reveal = makeViewController<RevealViewController>(makeViewController<ViewController>(),
-                                                          navigation);
-        window.resize(375, 667);
-        window.setRootViewController(reveal);
-        window.show();
-        QCoreApplication::processEvents();
-        cloud = std::static_pointer_cast<CloudViewController>(navigation->rootViewController());
-    }
-    ~CloudScreenTest() override {
-        window.setRootViewController(nullptr);
-        reveal.reset();
-        cloud.reset();
-        finishDeletions();
-    }
+    CloudScreenTest() { choose("cloud"); }
 
-    QQuickItem* item(const char* name) { return cloud->view()->findChild<QQuickItem*>(name); }
     void pressSend() {
         static_cast<void>(window.grabWindow());
-        QQuickItem* button = item("sendBackupButton");
+        QQuickItem* button = element("sendBackupButton");
         const QPointF middle = button->mapToScene({button->width() / 2, button->height() / 2});
         QTest::mouseClick(&window, Qt::LeftButton, {}, middle.toPoint());
         clock.advance(sheetDuration + 0.01);
@@ -72,28 +34,14 @@ protected:
                 QMetaObject::invokeMethod(button, "clicked");
         return mailer.sent.back();
     }
-
-    SteppedClock clock;
-    TemporaryFolder folder;
-    SystemFileManager files{folder.path()};
-    RecordingMailer mailer;
-    KeptLog log;
-    Window window;
-    std::shared_ptr<CloudViewController> cloud;
-    std::shared_ptr<RevealViewController> reveal;
 };
 
-TEST_F(CloudScreenTest, IsStyledPinnedAndWiredToTheMenu) {
-    EXPECT_EQ(cloud->title(), "Cloud");
-    const auto* layer = item("sendBackupButton")->findChild<QQuickItem*>("layer");
+TEST_F(CloudScreenTest, IsStyledAndWiredToTheMenu) {
+    EXPECT_EQ(screen().title(), "Cloud");
+    const auto* layer = element("sendBackupButton")->findChild<QQuickItem*>("layer");
     ASSERT_NE(layer, nullptr);
     EXPECT_EQ(layer->property("color").value<QColor>(), QColor::fromRgbF(0, 122 / 255.0F, 1));
-    for (const int width : {320, 1024}) {
-        cloud->view()->setWidth(width);
-        EXPECT_EQ(item("contentView")->width(), width);
-        EXPECT_EQ(item("contentView")->x(), 0);
-    }
-    cloud->view()->findChild<BarButtonItem*>("sidebarButton")->press();
+    screen().view()->findChild<BarButtonItem*>("sidebarButton")->press();
     EXPECT_EQ(reveal->frontViewPosition(), FrontPositionSlidRight);
     reveal->setFrontViewPosition(FrontPositionClosed);
     Finger(window, clock).drag({100, 120}, {300, 120}, 0.3);
@@ -127,8 +75,8 @@ TEST_F(CloudScreenTest, EachResultIsLoggedAndShowsNothing) {
         pressSend();
         log.lines.clear();
         MailComposeViewController any(mailer);
-        cloud->mailComposeControllerDidFinishWithResult(any, static_cast<MailComposeResult>(result),
-                                                        "No route.");
+        static_cast<CloudViewController&>(screen()).mailComposeControllerDidFinishWithResult(
+            any, static_cast<MailComposeResult>(result), "No route.");
         EXPECT_EQ(log.lines, line);
         EXPECT_EQ(window.modalPresentation().presented(), nullptr);
         EXPECT_EQ(window.alerts().numberShown(), 0);

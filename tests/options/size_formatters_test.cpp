@@ -1,12 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <clocale>
 #include <cmath>
-#include <cstdlib>
 #include <limits>
 
 #include "options/SizeFormatters.h"
-#include "support/TemporaryFolder.h"
 
 namespace tarnwick {
 namespace {
@@ -32,23 +29,6 @@ TEST(SizeFormatters, EachHasItsOwnTiersAndWords) {
         EXPECT_EQ(memoryFormatterDouble(static_cast<double>(row.bytes)), row.archive);
     }
     EXPECT_EQ(memoryFormatterDouble(std::nan("")), "nan B");
-}
-
-// Makes a locale with a decimal comma for this test: a machine need not have one.
-TEST(SizeFormatters, WriteAPointInALocaleWithAComma) {
-    const testing::TemporaryFolder folder;
-    const std::string name = "de_DE.UTF-8";
-    const std::string line =
-        "localedef -i de_DE -f UTF-8 " + folder.path() + "/" + name + " 2>/dev/null";
-    if (std::system(line.c_str()) != 0)
-        GTEST_SKIP() << "the package locales, whose sources localedef needs, is not installed";
-    ASSERT_EQ(::setenv("LOCPATH", folder.path().c_str(), 1), 0);
-    ASSERT_NE(std::setlocale(LC_ALL, name.c_str()), nullptr);
-    ASSERT_STREQ(std::localeconv()->decimal_point, ",");
-    EXPECT_EQ(memoryFormatter(1610612736), "1.50 GB");
-    EXPECT_EQ(memoryFormatterDouble(1536), "1.50 KB");
-    std::setlocale(LC_ALL, "C");
-    ::unsetenv("LOCPATH");
 }
 
 }  // namespace

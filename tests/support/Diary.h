@@ -92,7 +92,6 @@ public:
     // Runs what is queued, oldest first, until nothing is left.
     void stepGlobal();
     void stepMain();
-    std::size_t waitingOnMain() const { return main_.size(); }
 
     bool backgroundWaits = false;  // as what is dispatched to the global queue
     bool mainIsFaster = false;     // a dispatched task runs before its dispatcher goes on
