@@ -4,89 +4,44 @@
 
 #include <algorithm>
 
-#include "cli/Commands.h"
 #include "cli/Words.h"
 #include "support/Operations.h"
 
 namespace tarnwick::testing {
 namespace {
 
-std::size_t placeIn(const std::vector<std::string>& words, const std::string& word) {
-    return static_cast<std::size_t>(std::find(words.begin(), words.end(), word) - words.begin());
-}
-
-// Asks, forgets the question and presses the button.
-void answer(Operations& on, void (OptionsOperations::*question)(), std::size_t button) {
-    (on.options.*question)();
-    on.diary.entries.clear();
-    on.options.alertViewClickedButtonAtIndex(on.feedback.lastAlert, static_cast<int>(button));
-}
-
-void restore(Operations& on, const std::string& target) {
-    if (target != "all") {
-        on.restore.actions().at(actionName("restore", target, on.catalogue))();
-        return;
-    }
-    on.restore.restoreAllInOne();
-    on.diary.entries.clear();
-    on.restore.alertViewClickedButtonAtIndex(on.feedback.lastAlert, 1);
-}
-
-void recreateFolders(Operations& on, const std::string& name) {
-    answer(on, &OptionsOperations::recreateApplicationFolders, name.empty() ? 1 : 2);
-    if (name.empty())
-        return;
-    on.diary.entries.clear();
-    on.options.alertViewClickedButtonAtIndex(on.feedback.lastAlert,
-                                             static_cast<int>(placeIn(folderWords(), name)) + 1);
-}
-
-void ask(Operations& on) {
-    on.options.recreateApplicationFolders();
-    on.options.alertViewClickedButtonAtIndex(on.feedback.lastAlert, 2);
-    on.options.removeSafeguard();
-    on.options.respring();
-    on.options.reboot();
-    on.options.removeSourcesList();
-    on.options.backupSize();
-    on.folder.put(library + "Notes.zip", "zip");
-    on.restore.restoreAllInOne();
-}
-
-void perform(Operations& on, const std::string& verb, const std::string& word) {
-    if (verb == "save")
-        on.backup.actions().at(actionName("save", word, on.catalogue))();
-    else if (verb == "restore")
-        restore(on, word);
-    else if (verb == "size")
-        answer(on, &OptionsOperations::backupSize, placeIn(itemWords(on.catalogue), word) + 1);
-    else if (verb == "folders")
-        recreateFolders(on, word);
-    else if (verb == "remove" && word == "backups")
-        answer(on, &OptionsOperations::removeSafeguard, 1);
-    else if (verb == "remove")
-        answer(on, &OptionsOperations::removeSourcesList, 1);
-    else if (verb == "respring")
-        answer(on, &OptionsOperations::respring, 1);
-    else if (verb == "reboot")
-        answer(on, &OptionsOperations::reboot, 1);
-    else if (verb == "questions")
-        ask(on);
-    else
-        ADD_FAILURE() << "unknown verb " << verb;
-}
-
-TEST(Events, EveryOperationDoesWhatTheTableSays) {
+TEST(Events, EveryOperationDoesWhatTheTableSaysAfterItsQuestions) {
+    const Entries questions = literalQuestions();
     for (const auto& [scene, events] : literalEvents()) {
-        const std::string phrase = scene.substr(0, scene.find(','));
-        const std::string verb = phrase.substr(0, phrase.find(' '));
         Operations on;
         on.queues.mainIsFaster = true;
         setScene(scene, on.folder, on.runner);
-        perform(on, verb, phrase == verb ? "" : phrase.substr(verb.size() + 1));
+        NamedActions actions = on.options.actions();
+        actions.merge(on.backup.actions());
+        actions.merge(on.restore.actions());
+        const Steps steps = stepsOf(scene);
+        actions.at(steps.action)();
+        for (const int button : steps.answers) {
+            const Alert question = on.feedback.lastAlert;
+            const bool isRestore = steps.action == "restoreAllInOne";
+            // The names of the archives stand in its text.
+            EXPECT_EQ(std::ranges::count(questions, "alert: " + textOf(question)),
+                      isRestore ? 0 : 1);
+            on.diary.entries.clear();
+            for (const int index : {0, button})
+                isRestore ? on.restore.alertViewClickedButtonAtIndex(question, index)
+                          : on.options.alertViewClickedButtonAtIndex(question, index);
+        }
         on.queues.stepGlobal();
         EXPECT_EQ(on.diary.entries, events) << scene;
     }
+}
+
+TEST(Events, AllInOneAsksWithWhatIsThere) {
+    Operations on;
+    on.folder.put(library + "Notes.zip", "zip");
+    on.restore.restoreAllInOne();
+    EXPECT_EQ(on.diary.entries, Entries{literalQuestions().back()});
 }
 
 TEST(Events, TheTableHasEveryItem) {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <fstream>
 
+#include "cli/Commands.h"
+#include "cli/Words.h"
 #include "support/Operations.h"
 
 namespace tarnwick::testing {
@@ -10,6 +12,8 @@ namespace tarnwick::testing {
 namespace {
 
 using Table = std::map<std::string, Entries>;
+
+constexpr const char* questionsSection = "questions";
 
 struct Section {
     std::string name;
@@ -164,7 +168,13 @@ std::map<std::string, Entries> literalEvents() {
     addSaves(table, itemsOf("save", sections), rules("save, all in one"));
     addRestores(table, itemsOf("restore", sections), rules("restore, all in one"));
     addSizes(table, itemsOf("size", sections), rules("size, every item"));
+    table.erase(questionsSection);
     return table;
+}
+
+Entries literalQuestions() {
+    const std::vector<Section> sections = readSections();
+    return std::ranges::find(sections, questionsSection, &Section::name)->lines;
 }
 
 void setScene(const std::string& scene, const TemporaryFolder& folder, RecordingRunner& runner) {
@@ -179,6 +189,31 @@ void setScene(const std::string& scene, const TemporaryFolder& folder, Recording
         if (line.starts_with("zip -r "))
             folder.put(wordAfter(line, "zip -r "), "zip");
     };
+}
+
+Steps stepsOf(const std::string& scene) {
+    const std::string phrase = scene.substr(0, scene.find(','));
+    const std::string verb = phrase.substr(0, phrase.find(' '));
+    const std::string word = phrase == verb ? "" : phrase.substr(verb.size() + 1);
+    const ItemCatalogue catalogue;
+    const auto buttonOf = [&word](const std::vector<std::string>& words) {
+        return static_cast<int>(std::ranges::find(words, word) - words.begin()) + 1;
+    };
+    if (phrase == "restore all")
+        return {"restoreAllInOne", {1}};
+    if (verb == "save" || verb == "restore")
+        return {actionName(verb, word, catalogue), {}};
+    if (verb == "size")
+        return {"backupSize", {buttonOf(itemWords(catalogue))}};
+    if (verb == "folders" && !word.empty())
+        return {"recreateApplicationFolders", {2, buttonOf(folderWords())}};
+    const std::map<std::string, std::string> actions = {
+        {"folders", "recreateApplicationFolders"},
+        {"remove backups", "removeSafeguard"},
+        {"remove sources-list", "removeSourcesList"},
+        {"respring", "respring"},
+        {"reboot", "reboot"}};
+    return {actions.at(phrase), {1}};
 }
 
 }  // namespace tarnwick::testing

@@ -36,6 +36,11 @@ void TemporaryFolder::put(const std::string& name, const std::string& content) c
     std::ofstream(path_ + "/" + name) << content;
 }
 
+void TemporaryFolder::clear() const {
+    fs::remove_all(path_);
+    fs::create_directory(path_);
+}
+
 void TemporaryFolder::putEveryArchive() const {
     for (const std::string_view folder : paths::safeguardFolders)
         fs::create_directories(path_ + std::string(folder));

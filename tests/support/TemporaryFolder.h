@@ -17,6 +17,7 @@ public:
     std::string content(const std::string& name) const;
     // Makes the folders between as well.
     void put(const std::string& name, const std::string& content) const;
+    void clear() const;
     // An archive for each item, and the folders that they are in.
     void putEveryArchive() const;
 

@@ -31,38 +31,6 @@ TEST(Reveal, TogglesOpenAndClosed) {
                                    "will move to 3", "animate to 3", "did move to 3"}));
 }
 
-TEST(Reveal, TwoTogglesInSuccessionRunOneAfterTheOther) {
-    RevealScreen screen;
-    screen.reveal->setFrontViewPosition(FrontPositionSlidRight, Animated::Yes);
-    screen.reveal->setFrontViewPosition(FrontPositionClosed, Animated::Yes);
-    screen.clock.advance(0.25);
-    EXPECT_GT(screen.x(), 250);
-    EXPECT_EQ(screen.position(), FrontPositionSlidRight);
-    screen.clock.advance(0.1);
-    EXPECT_EQ(screen.position(), FrontPositionClosed);
-    screen.clock.advance(moved);
-    EXPECT_EQ(screen.x(), 0);
-}
-
-TEST(Reveal, ADragGoesAtHalfSpeedBeyondTheMenuAndStopsAtItsEnd) {
-    RevealScreen screen;
-    screen.finger.press({20, 300});
-    screen.finger.move({230, 300});  // 200 beyond the threshold
-    EXPECT_NEAR(screen.x(), 200, 1);
-    EXPECT_FALSE(screen.view().isEnabled());
-    screen.finger.move({330, 300});
-    EXPECT_NEAR(screen.x(), 280, 1);
-    screen.finger.move({420, 300});
-    EXPECT_NEAR(screen.x(), 320, 1);
-    screen.finger.rest(0.3);
-    screen.finger.lift();
-    EXPECT_TRUE(screen.view().isEnabled());
-    screen.clock.advance(moved);
-    EXPECT_EQ(screen.x(), 0);
-    EXPECT_NEAR(screen.listener.endLocation, 320, 1);
-    EXPECT_NEAR(screen.listener.endProgress, 320.0 / 260, 0.01);
-}
-
 TEST(Reveal, ASlowReleaseGoesToTheNearerEndAndBouncesBackFromTheOverdraw) {
     const std::pair<double, double> rows[] = {{120, 0}, {200, 260}, {300, 0}};
     for (const auto& [released, end] : rows) {
@@ -70,6 +38,7 @@ TEST(Reveal, ASlowReleaseGoesToTheNearerEndAndBouncesBackFromTheOverdraw) {
         // In the overdraw the finger goes twice as far.
         screen.dragSlowlyTo(released > 260 ? 260 + 2 * (released - 260) : released);
         EXPECT_NEAR(screen.listener.endLocation, released, 1);
+        EXPECT_NEAR(screen.listener.endProgress, released / 260, 0.01);
         screen.clock.advance(moved);
         EXPECT_EQ(screen.x(), end) << released;
     }
@@ -284,7 +253,7 @@ TEST(Reveal, ARemovedPositionTakesTheFrontChildAway) {
     EXPECT_EQ(front->parentItem(), screen.view().frontView());
 }
 
-TEST(Reveal, ResizingDuringAMoveLeavesASoundLayout) {
+TEST(Reveal, ResizingDuringAMoveOrADragLeavesASoundLayout) {
     RevealScreen screen;
     screen.reveal->revealToggle();
     screen.clock.advance(0.1);
@@ -299,34 +268,30 @@ TEST(Reveal, ResizingDuringAMoveLeavesASoundLayout) {
     screen.window.contentItem()->setSize({375, 667});
     EXPECT_EQ(screen.view().frontView()->height(), 667) << "under the finger";
     EXPECT_NEAR(screen.x(), 170, 1);
-    screen.window.contentItem()->setSize({667, 375});
-    screen.finger.rest(0.3);
-    screen.finger.lift();
-    screen.clock.advance(moved);
+}
+
+TEST(Reveal, AHierarchicalFrontViewLeavesRoomForTheBarAndAClosedMenuBelow) {
+    RevealScreen screen;
     screen.reveal->presentFrontViewHierarchically = true;
+    screen.reveal->setFrontViewPosition(FrontPositionSlidRight);
     screen.reveal->setFrontViewPosition(FrontPositionClosed);
     EXPECT_EQ(screen.view().frontView()->y(), 44);
-    EXPECT_EQ(screen.view().frontView()->height(), 331);
+    EXPECT_EQ(screen.view().frontView()->height(), 623);
     EXPECT_NE(screen.view().rearView(), nullptr);
 }
 
 TEST(Reveal, ThePointTestReachesBeyondTheBoundsOnlyWhereItIsExtended) {
-    RevealScreen screen;
-    screen.reveal->revealToggleAnimated(Animated::No);
-    const QPointF onTheFrontOutside(500, 300);
-    EXPECT_FALSE(screen.view().contains(onTheFrontOutside));
-    screen.reveal->extendsPointInsideHit = true;
-    EXPECT_TRUE(screen.view().contains(onTheFrontOutside));
-    EXPECT_FALSE(screen.view().contains({700, 300}));
-    screen.view().setSize({300, 667});  // the front view juts out
-    screen.finger.drag({340, 300}, {240, 300});
-    screen.clock.advance(moved);
-    EXPECT_EQ(screen.x(), 0);
-    screen.reveal->revealToggleAnimated(Animated::No);
-    screen.reveal->extendsPointInsideHit = false;
-    screen.finger.drag({340, 300}, {240, 300});
-    screen.clock.advance(moved);
-    EXPECT_EQ(screen.x(), 260);
+    for (const bool extends : {true, false}) {
+        RevealScreen screen;
+        screen.reveal->revealToggleAnimated(Animated::No);
+        screen.reveal->extendsPointInsideHit = extends;
+        EXPECT_EQ(screen.view().contains(QPointF(500, 300)), extends) << "on the front view";
+        EXPECT_FALSE(screen.view().contains({700, 300}));
+        screen.view().setSize({300, 667});  // the front view juts out
+        screen.finger.drag({340, 300}, {240, 300});
+        screen.clock.advance(moved);
+        EXPECT_EQ(screen.x(), extends ? 0 : 260);
+    }
 }
 
 TEST(Reveal, GoesWithItsChildrenInTheMiddleOfAMove) {
