@@ -8,6 +8,7 @@
 
 #include "platform/controllers/NavigationBar.h"
 #include "platform/views/QmlEngine.h"
+#include "platform/views/Scrolling.h"
 #include "platform/windows/Window.h"
 
 namespace tarnwick {
@@ -17,7 +18,7 @@ namespace {
 constexpr int deleteIndex = 1;
 constexpr int keepIndex = 2;
 
-// So that the line that is written on does not stick to the form's edge; in points.
+// Points that keep the line that is written on clear of the form's edges.
 constexpr double roomAroundCursor = 12;
 
 const Alert draftQuestion = {.title = "Delete or Keep Draft",
@@ -38,12 +39,6 @@ QVariantList rowsOf(const QList<ComposedAttachment>& attachments) {
         rows.append(
             QVariantMap{{"name", attachment.fileName}, {"size", sizeText(attachment.data)}});
     return rows;
-}
-
-// Where a field is written on, in the coordinates of the form's content.
-QRectF cursorOf(const QQuickItem* field, const QQuickItem* form) {
-    return field->mapRectToItem(form->property("contentItem").value<QQuickItem*>(),
-                                field->property("cursorRectangle").toRectF());
 }
 
 }  // namespace
@@ -96,16 +91,10 @@ void MailComposeViewController::offerSend() {
 }
 
 void MailComposeViewController::keepFocusSeen() {
-    for (const QQuickItem* field :
-         {recipientsField_.get(), subjectField_.get(), bodyField_.get()}) {
-        if (!field->hasActiveFocus())
-            continue;
-        const QRectF cursor = cursorOf(field, form_.get());
-        const double highest = std::max(0.0, cursor.top() - roomAroundCursor);
-        const double lowest = cursor.bottom() + roomAroundCursor - form_->height();
-        const double now = form_->property("contentY").toDouble();
-        form_->setProperty("contentY", std::min(std::max(now, lowest), highest));
-    }
+    for (const QQuickItem* field : {recipientsField_.get(), subjectField_.get(), bodyField_.get()})
+        if (field->hasActiveFocus())
+            scrollToShow(form_.get(), field, field->property("cursorRectangle").toRectF(),
+                         roomAroundCursor);
 }
 
 ComposedMail MailComposeViewController::written() const {

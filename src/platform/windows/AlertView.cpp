@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/views/QmlEngine.h"
+#include "platform/views/Scrolling.h"
 
 namespace tarnwick {
 
@@ -17,16 +18,6 @@ constexpr double lengthOfLine = 20.0;  // points that an arrow key scrolls
 
 QQuickItem* partOf(const QQuickItem* panel, const char* name) {
     return panel->property(name).value<QQuickItem*>();
-}
-
-// Moves a scrolling area, as far as its content reaches.
-void scrollTo(QQuickItem* area, double position) {
-    const double furthest = area->property("contentHeight").toDouble() - area->height();
-    area->setProperty("contentY", std::clamp(position, 0.0, std::max(furthest, 0.0)));
-}
-
-double positionOf(const QQuickItem* area) {
-    return area->property("contentY").toDouble();
 }
 
 bool standsBefore(const QQuickItem* one, const QQuickItem* other) {
@@ -118,17 +109,12 @@ void AlertView::moveFocus(int step, Qt::FocusReason reason) {
 
 void AlertView::scrollToFocus() {
     const QQuickItem* button = scopedFocusItem();
-    if (button == nullptr || !button->property("visualFocus").toBool())
-        return;
-    QQuickItem* area = partOf(panel_, "buttonArea");
-    const double lowest = button->y();
-    const double highest = button->y() + button->height() - area->height();
-    scrollTo(area, std::min(std::max(positionOf(area), highest), lowest));
+    if (button != nullptr && button->property("visualFocus").toBool())
+        scrollToShow(partOf(panel_, "buttonArea"), button, button->boundingRect(), 0);
 }
 
 void AlertView::scrollText(double distance) {
-    QQuickItem* area = partOf(panel_, "textArea");
-    scrollTo(area, positionOf(area) + distance);
+    scrollBy(partOf(panel_, "textArea"), distance);
 }
 
 double AlertView::lengthOfPage() const {

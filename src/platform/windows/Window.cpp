@@ -5,7 +5,7 @@
 
 #include "platform/controllers/ViewController.h"
 #include "platform/motion/Frames.h"
-#include "platform/views/ScrollToVisible.h"
+#include "platform/views/Scrolling.h"
 
 namespace tarnwick {
 
