@@ -105,31 +105,22 @@ void RevealViewController::beginDrag() {
     revealView_->disableLayout = true;
     if (auto* delegate = delegate_.get())
         delegate->revealControllerPanGestureBegan(*this);
-    if (auto* delegate = delegate_.get()) {
-        const RevealProgress at = revealProgress(geometry(), frontX());
-        delegate->revealControllerPanGestureBeganFromLocationProgressOverProgress(
-            *this, frontX(), at.progress, at.overProgress);
-    }
+    reportDrag(&RevealViewControllerDelegate::
+                   revealControllerPanGestureBeganFromLocationProgressOverProgress);
 }
 
 void RevealViewController::drag() {
     double x = frontLocation(geometry(), panInitialFrontPosition_) +
                panGestureRecognizer_->translation(revealView_).x();
-    if (x < 0) {
-        if (!rightViewController_)
+    if (x != 0) {
+        const bool towardsRear = x > 0;
+        if (!childOf(towardsRear ? ReplaceRear : ReplaceRight))
             x = 0;
-        prepareSidesFor(FrontPositionSlidLeft);
-    } else if (x > 0) {
-        if (!rearViewController_)
-            x = 0;
-        prepareSidesFor(FrontPositionSlidRight);
+        prepareSidesFor(towardsRear ? FrontPositionSlidRight : FrontPositionSlidLeft);
     }
     revealView_->dragFrontViewTo(x);
-    if (auto* delegate = delegate_.get()) {
-        const RevealProgress at = revealProgress(geometry(), frontX());
-        delegate->revealControllerPanGestureMovedToLocationProgressOverProgress(
-            *this, frontX(), at.progress, at.overProgress);
-    }
+    reportDrag(&RevealViewControllerDelegate::
+                   revealControllerPanGestureMovedToLocationProgressOverProgress);
 }
 
 void RevealViewController::prepareSidesFor(RevealPosition position) {
@@ -150,11 +141,16 @@ void RevealViewController::restoreUserInteraction() {
 void RevealViewController::notifyDragEnded() {
     if (auto* delegate = delegate_.get())
         delegate->revealControllerPanGestureEnded(*this);
-    if (auto* delegate = delegate_.get()) {
-        const RevealProgress at = revealProgress(geometry(), frontX());
-        delegate->revealControllerPanGestureEndedToLocationProgressOverProgress(
-            *this, frontX(), at.progress, at.overProgress);
-    }
+    reportDrag(&RevealViewControllerDelegate::
+                   revealControllerPanGestureEndedToLocationProgressOverProgress);
+}
+
+void RevealViewController::reportDrag(DragReport report) {
+    auto* delegate = delegate_.get();
+    if (delegate == nullptr)
+        return;
+    const RevealProgress at = revealProgress(geometry(), frontX());
+    (delegate->*report)(*this, frontX(), at.progress, at.overProgress);
 }
 
 void RevealViewController::endDrag() {

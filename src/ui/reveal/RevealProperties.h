@@ -32,11 +32,17 @@ struct RevealProperties {
     bool extendsPointInsideHit = false;
 
     RevealGeometry geometryIn(const QSizeF& size) const {
-        return {size,
-                {rearViewRevealWidth, rearViewRevealOverdraw, rearViewRevealDisplacement,
-                 bounceBackOnOverdraw, stableDragOnOverdraw},
-                {rightViewRevealWidth, rightViewRevealOverdraw, rightViewRevealDisplacement,
-                 bounceBackOnLeftOverdraw, stableDragOnLeftOverdraw}};
+        return {.size = size,
+                .rear = {.revealWidth = rearViewRevealWidth,
+                         .revealOverdraw = rearViewRevealOverdraw,
+                         .revealDisplacement = rearViewRevealDisplacement,
+                         .bounceBackOnOverdraw = bounceBackOnOverdraw,
+                         .stableDragOnOverdraw = stableDragOnOverdraw},
+                .right = {.revealWidth = rightViewRevealWidth,
+                          .revealOverdraw = rightViewRevealOverdraw,
+                          .revealDisplacement = rightViewRevealDisplacement,
+                          .bounceBackOnOverdraw = bounceBackOnLeftOverdraw,
+                          .stableDragOnOverdraw = stableDragOnLeftOverdraw}};
     }
 };
 

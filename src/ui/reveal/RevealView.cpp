@@ -33,60 +33,32 @@ bool isInside(const QQuickItem* container, const QQuickItem* view,
 
 }  // namespace
 
-RevealView::RevealView(RevealViewController* controller)
-    : controller_(controller), frontView_(new QQuickItem(this)) {
+RevealView::RevealView(RevealViewController* controller) : controller_(controller) {
+    slots_[ReplaceFront] = new QQuickItem(this);
     setFiltersChildMouseEvents(true);
     setProperty(boundsTouchesProperty, true);
     Layer::of(this).setBackgroundColor(Qt::black);
 }
 
-QQuickItem* RevealView::slotOf(ChildReplacement operation) const {
-    switch (operation) {
-        case ReplaceRear:
-            return rearView_;
-        case ReplaceFront:
-            return frontView_;
-        case ReplaceRight:
-            return rightView_;
-    }
-    return nullptr;
-}
-
-QQuickItem* RevealView::makeSideView() {
-    auto* view = new QQuickItem(this);
-    view->stackBefore(frontView_);
-    return view;
-}
-
-void RevealView::prepareRearView() {
-    if (rearView_ != nullptr)
+void RevealView::prepareSideView(ChildReplacement side) {
+    if (slotOf(side) != nullptr)
         return;
-    rearView_ = makeSideView();
-    applyAtOnce(changesFor(frontView_->x()));
+    slots_[side] = new QQuickItem(this);
+    slots_[side]->stackBefore(frontView());
+    applyAtOnce(changesFor(frontView()->x()));
 }
 
-void RevealView::prepareRightView() {
-    if (rightView_ != nullptr)
-        return;
-    rightView_ = makeSideView();
-    applyAtOnce(changesFor(frontView_->x()));
+void RevealView::unloadSideView(ChildReplacement side) {
+    delete std::exchange(slots_[side], nullptr);
 }
 
 void RevealView::raiseShownSide(RevealPosition position) {
-    if (rearView_ == nullptr || rightView_ == nullptr)
+    if (rearView() == nullptr || rightView() == nullptr)
         return;
     if (position < FrontPositionClosed)
-        rightView_->stackAfter(rearView_);
+        rightView()->stackAfter(rearView());
     else if (position > FrontPositionClosed)
-        rearView_->stackAfter(rightView_);
-}
-
-void RevealView::unloadRearView() {
-    delete std::exchange(rearView_, nullptr);
-}
-
-void RevealView::unloadRightView() {
-    delete std::exchange(rightView_, nullptr);
+        rearView()->stackAfter(rightView());
 }
 
 RevealGeometry RevealView::geometry() const {
@@ -103,8 +75,8 @@ QRectF RevealView::frontFrame(double x) const {
 
 std::vector<Change> RevealView::changesFor(double x) const {
     std::vector<Change> changes;
-    addFrame(changes, rearView_, rearFrame(geometry(), x));
-    addFrame(changes, rightView_, rightFrame(geometry(), x));
+    addFrame(changes, rearView(), rearFrame(geometry(), x));
+    addFrame(changes, rightView(), rightFrame(geometry(), x));
     return changes;
 }
 
@@ -113,7 +85,7 @@ std::vector<Change> RevealView::layoutChanges() const {
         return {};
     const double x = frontLocation(geometry(), controller_->frontViewPosition());
     std::vector<Change> changes = changesFor(x);
-    addFrame(changes, frontView_, frontFrame(x));
+    addFrame(changes, frontView(), frontFrame(x));
     return changes;
 }
 
@@ -127,7 +99,7 @@ void RevealView::dragFrontViewTo(double x) {
 
 void RevealView::placeFrontViewAt(double x) {
     std::vector<Change> changes = changesFor(x);
-    addFrame(changes, frontView_, frontFrame(x));
+    addFrame(changes, frontView(), frontFrame(x));
     applyAtOnce(changes);
 }
 
@@ -135,9 +107,9 @@ bool RevealView::contains(const QPointF& point) const {
     if (QQuickItem::contains(point))
         return true;
     return controller_->extendsPointInsideHit &&
-           (isInside(this, rearView_, controller_->rearViewController(), point) ||
-            isInside(this, frontView_, controller_->frontViewController(), point) ||
-            isInside(this, rightView_, controller_->rightViewController(), point));
+           (isInside(this, rearView(), controller_->rearViewController(), point) ||
+            isInside(this, frontView(), controller_->frontViewController(), point) ||
+            isInside(this, rightView(), controller_->rightViewController(), point));
 }
 
 void RevealView::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
@@ -145,13 +117,12 @@ void RevealView::geometryChange(const QRectF& newGeometry, const QRectF& oldGeom
     if (newGeometry.size() == oldGeometry.size())
         return;
     if (disableLayout)
-        placeFrontViewAt(frontView_->x());  // under the finger, in its new size
+        placeFrontViewAt(frontView()->x());  // under the finger, in its new size
     else
         layoutSubviews();
 }
 
-bool RevealView::childMouseEventFilter(QQuickItem* item, QEvent* event) {
-    static_cast<void>(item);
+bool RevealView::childMouseEventFilter(QQuickItem* /*item*/, QEvent* event) {
     if (!event->isPointerEvent())
         return false;
     auto* pointerEvent = static_cast<QPointerEvent*>(event);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QQuickItem>
+#include <array>
 #include <vector>
 
 #include "platform/motion/Animation.h"
@@ -20,21 +21,19 @@ public:
     // The controller owns the view and outlives it.
     explicit RevealView(RevealViewController* controller);
 
-    QQuickItem* frontView() const { return frontView_; }
-    // None unless it was prepared.
-    QQuickItem* rearView() const { return rearView_; }
-    QQuickItem* rightView() const { return rightView_; }
-    // The view that the operation replaces the content of; none if it is not there now.
-    QQuickItem* slotOf(ChildReplacement operation) const;
+    QQuickItem* frontView() const { return slotOf(ReplaceFront); }
+    // Null unless it was prepared.
+    QQuickItem* rearView() const { return slotOf(ReplaceRear); }
+    QQuickItem* rightView() const { return slotOf(ReplaceRight); }
+    // The view whose content the operation replaces; null if there is none at the moment.
+    QQuickItem* slotOf(ChildReplacement operation) const { return slots_[operation]; }
 
-    // Makes the side view if it is missing, below the front view, where it stands while the front
-    // view is where it is now.
-    void prepareRearView();
-    void prepareRightView();
+    // Makes the view of a side if it is missing, directly below the front view, where it belongs
+    // while the front view is where it is now.
+    void prepareSideView(ChildReplacement side);
+    void unloadSideView(ChildReplacement side);
     // The side that the position shows lies above the other one.
     void raiseShownSide(RevealPosition position);
-    void unloadRearView();
-    void unloadRightView();
 
     // What moves the views to where the controller's position wants them.
     std::vector<Change> layoutChanges() const;
@@ -59,12 +58,9 @@ private:
     std::vector<Change> changesFor(double x) const;
     QRectF frontFrame(double x) const;
     void placeFrontViewAt(double x);
-    QQuickItem* makeSideView();
 
     RevealViewController* controller_;
-    QQuickItem* frontView_;
-    QQuickItem* rearView_ = nullptr;
-    QQuickItem* rightView_ = nullptr;
+    std::array<QQuickItem*, ReplaceRight + 1> slots_ = {};  // by operation
 };
 
 }  // namespace tarnwick

@@ -18,20 +18,12 @@ bool isRemoved(RevealPosition position) {
     return position == FrontPositionSlidLeftRemoved || position == FrontPositionSlidRightRemoved;
 }
 
-bool isSomewhere(RevealPosition position) {
-    return position != FrontPositionNone;
-}
-
-bool showsRear(RevealPosition position) {
-    return isSomewhere(position) && position > FrontPositionClosed;
-}
-
-bool showsRight(RevealPosition position) {
-    return position < FrontPositionClosed;
-}
-
-bool showsFront(RevealPosition position) {
-    return isSomewhere(position) && !isRemoved(position);
+bool shows(ChildReplacement child, RevealPosition position) {
+    if (position == FrontPositionNone)
+        return false;
+    if (child == ReplaceFront)
+        return !isRemoved(position);
+    return child == ReplaceRear ? position > FrontPositionClosed : position < FrontPositionClosed;
 }
 
 }  // namespace
@@ -191,36 +183,30 @@ std::vector<Change> RevealViewController::animationStep(double duration) {
 }
 
 RevealViewController::Step RevealViewController::deployRear(RevealPosition position) {
-    if (presentFrontViewHierarchically)
-        position = FrontPositionSlidRight;
-    if (!rearViewController_ && position > FrontPositionClosed)
-        position = FrontPositionClosed;
-    const bool wasShown = showsRear(std::exchange(rearViewPosition_, position));
-    if (showsRear(position) && !wasShown) {
-        revealView_->prepareRearView();
-        deploy(rearViewController_, revealView_->rearView());
-    } else if (wasShown && !showsRear(position)) {
-        return [this, controller = rearViewController_] {
-            undeploy(controller);
-            revealView_->unloadRearView();
-        };
-    }
-    return [] {};
+    return deploySide(ReplaceRear, rearViewPosition_,
+                      presentFrontViewHierarchically ? FrontPositionSlidRight : position);
 }
 
 RevealViewController::Step RevealViewController::deployRight(RevealPosition position) {
-    if (!rightViewController_ && position < FrontPositionClosed)
+    return deploySide(ReplaceRight, rightViewPosition_, position);
+}
+
+RevealViewController::Step RevealViewController::deploySide(ChildReplacement side,
+                                                            RevealPosition& current,
+                                                            RevealPosition position) {
+    const Controller& controller = childOf(side);
+    if (!controller && shows(side, position))
         position = FrontPositionClosed;
-    const bool wasShown = showsRight(std::exchange(rightViewPosition_, position));
-    if (showsRight(position) && !wasShown) {
-        revealView_->prepareRightView();
-        deploy(rightViewController_, revealView_->rightView());
-    } else if (wasShown && !showsRight(position)) {
-        return [this, controller = rightViewController_] {
+    const bool wasShown = shows(side, std::exchange(current, position));
+    if (wasShown == shows(side, position))
+        return [] {};
+    if (wasShown)
+        return [this, side, controller] {
             undeploy(controller);
-            revealView_->unloadRightView();
+            revealView_->unloadSideView(side);
         };
-    }
+    revealView_->prepareSideView(side);
+    deploy(controller, revealView_->slotOf(side));
     return [] {};
 }
 
@@ -232,10 +218,10 @@ RevealViewController::Step RevealViewController::deployFront(RevealPosition posi
     const bool changes = position != frontViewPosition_;
     if (changes && delegate_.get() != nullptr)
         delegate_.get()->revealControllerWillMoveToPosition(*this, position);
-    const bool wasShown = showsFront(std::exchange(frontViewPosition_, position));
-    if (showsFront(position) && !wasShown)
+    const bool wasShown = shows(ReplaceFront, std::exchange(frontViewPosition_, position));
+    if (shows(ReplaceFront, position) && !wasShown)
         deploy(frontViewController_, revealView_->frontView());
-    const bool disappears = wasShown && !showsFront(position);
+    const bool disappears = wasShown && !shows(ReplaceFront, position);
     return [this, controller = frontViewController_, disappears, changes, position] {
         if (disappears)
             undeploy(controller);

@@ -100,6 +100,9 @@ protected:
 private:
     // What is left to do when a move or a replacement is over.
     using Step = std::function<void()>;
+    // Tells the delegate of a drag: location, progress, progress in the overdraw.
+    using DragReport = void (RevealViewControllerDelegate::*)(RevealViewController&, double, double,
+                                                              double);
 
     struct Restorable;  // the values that are restored, in their order
 
@@ -114,6 +117,8 @@ private:
     void setPosition(RevealPosition position, double duration);
     Step deployRear(RevealPosition position);
     Step deployRight(RevealPosition position);
+    // The side leaves its current position for the other one.
+    Step deploySide(ChildReplacement side, RevealPosition& current, RevealPosition position);
     Step deployFront(RevealPosition position);
     std::vector<Change> animationStep(double duration);
     Course course(double duration) const;
@@ -136,6 +141,7 @@ private:
     void prepareSidesFor(RevealPosition position);
     void restoreUserInteraction();
     void notifyDragEnded();
+    void reportDrag(DragReport report);
     bool panShouldBegin();
     bool tapShouldBegin();
     RevealGeometry geometry() const;
