@@ -7,6 +7,7 @@
 #include <thread>
 
 #include "platform/threads/PlatformQueues.h"
+#include "platform/views/ActivityIndicatorView.h"
 #include "support/SteppedClock.h"
 #include "ui/hud/BarProgressView.h"
 #include "ui/hud/ProgressHUD.h"
@@ -201,9 +202,12 @@ TEST_F(ProgressHUDTest, EachModeHasItsIndicator) {
     EXPECT_EQ(hud.indicator(), round);
     EXPECT_TRUE(round->isAnnular());
     QQuickItem custom;
+    QQuickItem otherCustom;
     hud.setCustomView(&custom);
     hud.setMode(ProgressHUD::ModeCustomView);
     EXPECT_EQ(hud.indicator(), &custom);
+    hud.setCustomView(&otherCustom);
+    EXPECT_EQ(hud.indicator(), &otherCustom);
     hud.setMode(ProgressHUD::ModeTextOnly);
     EXPECT_EQ(hud.indicator(), nullptr);
     EXPECT_EQ(custom.parentItem(), nullptr);

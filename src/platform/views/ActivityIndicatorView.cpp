@@ -24,7 +24,7 @@ double alphaOf(int spoke, int brightest) {
 
 }  // namespace
 
-ActivityIndicatorView::ActivityIndicatorView(QQuickItem* parent) : QQuickPaintedItem(parent) {
+ActivityIndicatorView::ActivityIndicatorView(QQuickItem* parent) : PaintedView(parent) {
     setSize({extent, extent});
     setAntialiasing(true);
     turn_.setStartValue(0);
@@ -33,11 +33,6 @@ ActivityIndicatorView::ActivityIndicatorView(QQuickItem* parent) : QQuickPainted
     turn_.setLoopCount(-1);
     // Twelve pictures a second, however many frames there are.
     connect(&turn_, &QVariantAnimation::valueChanged, this, [this] { update(); });
-}
-
-void ActivityIndicatorView::setColor(const QColor& color) {
-    color_ = color;
-    update();
 }
 
 void ActivityIndicatorView::startAnimating() {

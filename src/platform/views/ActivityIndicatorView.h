@@ -1,20 +1,21 @@
 #pragma once
 
 #include <QColor>
-#include <QQuickPaintedItem>
 #include <QVariantAnimation>
+
+#include "platform/views/PaintedView.h"
 
 namespace tarnwick {
 
 // A phone's large activity indicator: twelve spokes, of which the brightest goes round once a
 // second. Main thread.
-class ActivityIndicatorView : public QQuickPaintedItem {
+class ActivityIndicatorView : public PaintedView {
     Q_OBJECT
 
 public:
     explicit ActivityIndicatorView(QQuickItem* parent);
 
-    void setColor(const QColor& color);
+    void setColor(const QColor& color) { change(color_, color); }
     void startAnimating();
 
     void paint(QPainter* painter) override;

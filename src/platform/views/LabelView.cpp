@@ -19,32 +19,15 @@ QSizeF wholePoints(const QSizeF& size) {
 
 }  // namespace
 
-LabelView::LabelView(QQuickItem* parent) : QQuickPaintedItem(parent) {
+LabelView::LabelView(QQuickItem* parent) : PaintedView(parent) {
     setVisible(false);
 }
 
 void LabelView::setText(const QString& text) {
-    if (text == text_)
+    if (!change(text_, text))
         return;
-    text_ = text;
     setVisible(!text.isEmpty());
     describe(this, QAccessible::StaticText, text);
-    update();
-}
-
-void LabelView::setLines(Lines lines) {
-    lines_ = lines;
-    update();
-}
-
-void LabelView::setFont(const QFont& font) {
-    font_ = font;
-    update();
-}
-
-void LabelView::setColor(const QColor& color) {
-    color_ = color;
-    update();
 }
 
 QSizeF LabelView::sizeOnOneLine() const {

@@ -2,13 +2,14 @@
 
 #include <QColor>
 #include <QFont>
-#include <QQuickPaintedItem>
 #include <QString>
+
+#include "platform/views/PaintedView.h"
 
 namespace tarnwick {
 
 // Centred text, painted at the screen's own resolution. Main thread.
-class LabelView : public QQuickPaintedItem {
+class LabelView : public PaintedView {
     Q_OBJECT
 
 public:
@@ -16,11 +17,11 @@ public:
 
     enum class Lines { One, Wrapped };
     // One line is cut with dots where it does not fit.
-    void setLines(Lines lines);
+    void setLines(Lines lines) { change(lines_, lines); }
     const QString& text() const { return text_; }
     void setText(const QString& text);
-    void setFont(const QFont& font);
-    void setColor(const QColor& color);
+    void setFont(const QFont& font) { change(font_, font); }
+    void setColor(const QColor& color) { change(color_, color); }
 
     // Whole points that the text takes on one line; nothing if it is empty.
     QSizeF sizeOnOneLine() const;

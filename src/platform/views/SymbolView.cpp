@@ -40,24 +40,18 @@ void addSymbol(const QString& name, const QPainterPath& drawing) {
     drawings()[name] = drawing;
 }
 
-SymbolView::SymbolView(QQuickItem* parent) : QQuickPaintedItem(parent) {
+SymbolView::SymbolView(QQuickItem* parent) : PaintedView(parent) {
     setImplicitSize(symbolExtent, symbolExtent);
 }
 
 void SymbolView::setName(const QString& name) {
-    if (name == name_)
-        return;
-    name_ = name;
-    emit nameChanged();
-    update();
+    if (change(name_, name))
+        emit nameChanged();
 }
 
 void SymbolView::setColor(const QColor& color) {
-    if (color == color_)
-        return;
-    color_ = color;
-    emit colorChanged();
-    update();
+    if (change(color_, color))
+        emit colorChanged();
 }
 
 void SymbolView::paint(QPainter* painter) {

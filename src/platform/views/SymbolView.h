@@ -2,9 +2,10 @@
 
 #include <QColor>
 #include <QPainterPath>
-#include <QQuickPaintedItem>
 #include <QString>
 #include <QtQmlIntegration>
+
+#include "platform/views/PaintedView.h"
 
 namespace tarnwick {
 
@@ -17,7 +18,7 @@ void addSymbol(const QString& name, const QPainterPath& drawing);
 
 // A small line drawing in one colour, sharp at every size. An unknown name draws nothing. Main
 // thread.
-class SymbolView : public QQuickPaintedItem {
+class SymbolView : public PaintedView {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged)

@@ -27,11 +27,8 @@ bool standsBefore(const QQuickItem* one, const QQuickItem* other) {
 }  // namespace
 
 AlertView::AlertView(const Alert& alert, QQuickItem* parent)
-    : QQuickItem(parent), alert_(alert), panel_(nullptr) {
+    : InputBlocker(parent), alert_(alert), panel_(nullptr) {
     setFlag(ItemIsFocusScope);
-    setAcceptedMouseButtons(Qt::AllButtons);
-    setAcceptTouchEvents(true);
-    setAcceptHoverEvents(true);
     connect(parent, &QQuickItem::widthChanged, this, &AlertView::fillParent);
     connect(parent, &QQuickItem::heightChanged, this, &AlertView::fillParent);
     fillParent();
@@ -140,7 +137,7 @@ void AlertView::leave(Animated animated, std::function<void()> task) {
 }
 
 void AlertView::itemChange(ItemChange change, const ItemChangeData& data) {
-    QQuickItem::itemChange(change, data);
+    InputBlocker::itemChange(change, data);
     if (change == ItemActiveFocusHasChanged && !data.boolValue && isVisible() && isEnabled())
         emit focusLost();
 }
@@ -149,7 +146,7 @@ bool AlertView::event(QEvent* event) {
     // No shortcut of what lies below.
     if (event->type() == QEvent::ShortcutOverride)
         event->accept();
-    return QQuickItem::event(event);
+    return InputBlocker::event(event);
 }
 
 void AlertView::keyPressEvent(QKeyEvent* event) {
@@ -182,18 +179,6 @@ void AlertView::keyPressEvent(QKeyEvent* event) {
         default:
             break;
     }
-    event->accept();
-}
-
-void AlertView::mousePressEvent(QMouseEvent* event) {
-    event->accept();
-}
-
-void AlertView::touchEvent(QTouchEvent* event) {
-    event->accept();
-}
-
-void AlertView::wheelEvent(QWheelEvent* event) {
     event->accept();
 }
 

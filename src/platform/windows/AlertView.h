@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QQuickItem>
 #include <functional>
 #include <vector>
 
 #include "core/Alert.h"
 #include "platform/motion/Animation.h"
+#include "platform/views/InputBlocker.h"
 
 namespace tarnwick {
 
@@ -13,7 +13,7 @@ namespace tarnwick {
 // touch, mouse, wheel and key that reaches it. Keys: Tab and arrows go from button to button,
 // Return, Enter and the space bar press one, Escape presses the cancel button, Page Up and Page
 // Down move a long message. Main thread.
-class AlertView : public QQuickItem {
+class AlertView : public InputBlocker {
     Q_OBJECT
 
 public:
@@ -43,9 +43,6 @@ protected:
     bool event(QEvent* event) override;
     void itemChange(ItemChange change, const ItemChangeData& data) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void touchEvent(QTouchEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
 
 private:
     void fillParent();

@@ -38,29 +38,9 @@ QPainterPath filledPart(const QRectF& bounds, double amount) {
 
 }  // namespace
 
-BarProgressView::BarProgressView(QQuickItem* parent) : QQuickPaintedItem(parent) {
+BarProgressView::BarProgressView(QQuickItem* parent) : PaintedView(parent) {
     setSize(usualSize);
     setAntialiasing(true);
-}
-
-void BarProgressView::setProgress(double progress) {
-    progress_ = progress;
-    update();
-}
-
-void BarProgressView::setLineColor(const QColor& color) {
-    lineColor_ = color;
-    update();
-}
-
-void BarProgressView::setProgressColor(const QColor& color) {
-    progressColor_ = color;
-    update();
-}
-
-void BarProgressView::setProgressRemainingColor(const QColor& color) {
-    progressRemainingColor_ = color;
-    update();
 }
 
 void BarProgressView::paint(QPainter* painter) {

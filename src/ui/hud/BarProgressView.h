@@ -1,12 +1,13 @@
 #pragma once
 
 #include <QColor>
-#include <QQuickPaintedItem>
+
+#include "platform/views/PaintedView.h"
 
 namespace tarnwick {
 
 // A determinate indicator: a horizontal bar in a capsule. Every change redraws it. Main thread.
-class BarProgressView : public QQuickPaintedItem {
+class BarProgressView : public PaintedView {
     Q_OBJECT
     Q_PROPERTY(double progress READ progress WRITE setProgress)
 
@@ -14,10 +15,10 @@ public:
     explicit BarProgressView(QQuickItem* parent = nullptr);
 
     double progress() const { return progress_; }
-    void setProgress(double progress);  // 0.0 to 1.0
-    void setLineColor(const QColor& color);
-    void setProgressColor(const QColor& color);
-    void setProgressRemainingColor(const QColor& color);
+    void setProgress(double progress) { change(progress_, progress); }  // 0.0 to 1.0
+    void setLineColor(const QColor& color) { change(lineColor_, color); }
+    void setProgressColor(const QColor& color) { change(progressColor_, color); }
+    void setProgressRemainingColor(const QColor& color) { change(progressRemainingColor_, color); }
 
     void paint(QPainter* painter) override;
 

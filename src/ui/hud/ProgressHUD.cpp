@@ -2,16 +2,11 @@
 
 #include <QCoreApplication>
 #include <QGuiApplication>
-#include <QPainter>
-#include <QQuickPaintedItem>
-#include <algorithm>
 #include <thread>
 #include <utility>
 
 #include "platform/threads/MainThread.h"
 #include "platform/views/Accessibility.h"
-#include "ui/hud/BarProgressView.h"
-#include "ui/hud/RoundProgressView.h"
 
 namespace tarnwick {
 
@@ -40,42 +35,12 @@ void place(QQuickItem* item, const QRectF& frame) {
 
 }  // namespace
 
-// The rounded box, and the gradient that darkens the covered view. As large as the HUD.
-class ProgressHUD::Box : public QQuickPaintedItem {
-public:
-    explicit Box(QQuickItem* parent) : QQuickPaintedItem(parent) {}
-
-    void paint(QPainter* painter) override {
-        painter->setRenderHint(QPainter::Antialiasing);
-        if (dimBackground)
-            painter->fillRect(boundingRect(), gradient());
-        QColor fill = color;
-        if (!fill.isValid())
-            fill = QColor::fromRgbF(0, 0, 0, static_cast<float>(opacityOfFill));
-        painter->setPen(Qt::NoPen);
-        painter->setBrush(fill);
-        painter->drawRoundedRect(frame, cornerRadius, cornerRadius);
-    }
-
-    QRectF frame;
-    QColor color;
-    double opacityOfFill = 0.8;
-    double cornerRadius = 10.0;
-    bool dimBackground = false;
-
-private:
-    QRadialGradient gradient() const {
-        QRadialGradient darkening(boundingRect().center(), std::min(width(), height()));
-        darkening.setColorAt(0, QColor::fromRgbF(0, 0, 0, 0));
-        darkening.setColorAt(1, QColor::fromRgbF(0, 0, 0, 0.75F));
-        return darkening;
-    }
-};
-
 ProgressHUD::ProgressHUD(QQuickItem* view)
-    : box_(new Box(this)),
+    : InputBlocker(nullptr),
+      box_(new ProgressHUDBox(this)),
       label_(new LabelView(this)),
       detailsLabel_(new LabelView(this)),
+      indicator_(this),
       graceTimer_(new Pause(this)),
       minShowTimer_(new Pause(this)),
       sinceShown_(new Stopwatch(this)) {
@@ -83,14 +48,12 @@ ProgressHUD::ProgressHUD(QQuickItem* view)
     setSize(view->size());
     setOpacity(0);
     setVisible(false);
-    setAcceptedMouseButtons(Qt::AllButtons);
-    setAcceptTouchEvents(true);
+    contents_.details = [this](const QSizeF& limit) { return detailsLabel_->sizeWithin(limit); };
     label_->setLines(LabelView::Lines::One);
     label_->setFont(boldSystemFont(labelFontSize));
     label_->setColor(Qt::white);
     detailsLabel_->setFont(boldSystemFont(detailsFontSize));
     detailsLabel_->setColor(Qt::white);
-    updateIndicators();
     describeAll();
 }
 
@@ -153,7 +116,7 @@ void ProgressHUD::showNow() {
     const bool animated = useAnimation_ == Animated::Yes;
     setVisible(true);
     coverSiblings();
-    redraw();
+    polish();
     sinceShown_->start();
     if (!animated) {
         applyAtOnce({{this, Change::Property::Opacity, 1.0}});
@@ -263,29 +226,24 @@ void ProgressHUD::changeOnMainThread(Block change) {
     performOnMainThread(this, [this, change = std::move(change)] {
         change();
         describeAll();
-        redraw();
+        polish();
     });
 }
 
 void ProgressHUD::setMode(Mode mode) {
-    changeOnMainThread([this, mode] {
-        mode_ = mode;
-        updateIndicators();
-    });
+    changeOnMainThread([this, mode] { indicator_.setMode(mode); });
 }
 
 void ProgressHUD::setCustomView(QQuickItem* view) {
-    changeOnMainThread([this, view = QPointer(view)] {
-        customView_ = view;
-        updateIndicators();
-    });
+    changeOnMainThread([this, view = QPointer(view)] { indicator_.setCustomView(view); });
 }
 
 void ProgressHUD::setActivityIndicatorColor(const QColor& color) {
-    changeOnMainThread([this, color] {
-        activityIndicatorColor_ = color;
-        updateIndicators();
-    });
+    changeOnMainThread([this, color] { indicator_.setSpinnerColor(color); });
+}
+
+void ProgressHUD::setProgress(double progress) {
+    changeOnMainThread([this, progress] { indicator_.setProgress(progress); });
 }
 
 void ProgressHUD::setLabelText(const QString& text) {
@@ -312,121 +270,22 @@ void ProgressHUD::setDetailsLabelColor(const QColor& color) {
     changeOnMainThread([this, color] { detailsLabel_->setColor(color); });
 }
 
-void ProgressHUD::setProgress(double progress) {
-    changeOnMainThread([this, progress] {
-        progress_ = progress;
-        passProgressOn();
-    });
-}
-
-void ProgressHUD::setOpacityOfBox(double opacity) {
-    box_->opacityOfFill = opacity;
-    redraw();
-}
-
-void ProgressHUD::setColor(const QColor& color) {
-    box_->color = color;
-    redraw();
-}
-
-void ProgressHUD::setOffset(const QPointF& offset) {
-    offset_ = offset;
-    redraw();
-}
-
-void ProgressHUD::setMargin(double margin) {
-    margin_ = margin;
-    redraw();
-}
-
-void ProgressHUD::setCornerRadius(double radius) {
-    box_->cornerRadius = radius;
-    redraw();
-}
-
-void ProgressHUD::setMinSize(const QSizeF& size) {
-    minSize_ = size;
-    redraw();
-}
-
-void ProgressHUD::setSquare(bool square) {
-    square_ = square;
-    redraw();
-}
-
-void ProgressHUD::setDimBackground(bool dim) {
-    box_->dimBackground = dim;
-    redraw();
-}
-
-void ProgressHUD::updateIndicators() {
-    if (mode_ == ModeIndeterminate) {
-        if (qobject_cast<ActivityIndicatorView*>(indicator_) == nullptr) {
-            auto* spinner = new ActivityIndicatorView(this);
-            spinner->startAnimating();
-            replaceIndicator(spinner);
-        }
-        qobject_cast<ActivityIndicatorView*>(indicator_)->setColor(activityIndicatorColor_);
-    } else if (mode_ == ModeBar) {
-        replaceIndicator(new BarProgressView(this));
-    } else if (mode_ == ModePie || mode_ == ModeRing) {
-        if (qobject_cast<RoundProgressView*>(indicator_) == nullptr)
-            replaceIndicator(new RoundProgressView(this));
-        if (mode_ == ModeRing)
-            qobject_cast<RoundProgressView*>(indicator_)->setAnnular(true);
-    } else if (mode_ == ModeTextOnly) {
-        replaceIndicator(nullptr);
-    } else if (customView_ != indicator_) {
-        replaceIndicator(customView_);
-    }
-}
-
-void ProgressHUD::replaceIndicator(QQuickItem* indicator) {
-    if (indicator_) {
-        indicator_->setParentItem(nullptr);
-        // A custom view belongs to who made it.
-        if (indicator_ != customView_)
-            delete indicator_;
-    }
-    indicator_ = indicator;
-    if (indicator_ == nullptr)
-        return;
-    indicatorSize_ = indicator_->size();  // the layout may make it narrower for a while
-    indicator_->setParentItem(this);
-    if (mode_ != ModeCustomView)
-        passProgressOn();
-}
-
-void ProgressHUD::passProgressOn() {
-    if (indicator_ && indicator_->metaObject()->indexOfProperty("progress") >= 0)
-        indicator_->setProperty("progress", progress_);
-}
-
 void ProgressHUD::describeAll() {
     const QString name = label_->text().isEmpty() ? QStringLiteral("Busy") : label_->text();
     describe(this, QAccessible::AlertMessage, name, detailsLabel_->text());
 }
 
-void ProgressHUD::redraw() {
-    polish();  // the layout has the box drawn anew
-}
-
 void ProgressHUD::updatePolish() {
     if (parentItem() != nullptr)
         setSize(parentItem()->size());
-    layout_ =
-        layOut({.bounds = size(),
-                .indicator = indicator_ ? indicatorSize_ : QSizeF(0, 0),
-                .label = label_->sizeOnOneLine(),
-                .details = [this](const QSizeF& limit) { return detailsLabel_->sizeWithin(limit); },
-                .margin = margin_,
-                .offset = offset_,
-                .square = square_,
-                .minSize = minSize_});
+    contents_.bounds = size();
+    contents_.indicator = indicator_.size();
+    contents_.label = label_->sizeOnOneLine();
+    layout_ = layOut(contents_);
     box_->setSize(size());
     box_->frame = layout_.box;
     box_->update();
-    place(indicator_, layout_.indicator);
+    place(indicator_.view(), layout_.indicator);
     place(label_, layout_.label);
     place(detailsLabel_, layout_.details);
 }
@@ -446,18 +305,6 @@ void ProgressHUD::itemChange(ItemChange change, const ItemChangeData& data) {
 void ProgressHUD::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
     QQuickItem::geometryChange(newGeometry, oldGeometry);
     polish();
-}
-
-void ProgressHUD::mousePressEvent(QMouseEvent* event) {
-    event->accept();
-}
-
-void ProgressHUD::touchEvent(QTouchEvent* event) {
-    event->accept();
-}
-
-void ProgressHUD::wheelEvent(QWheelEvent* event) {
-    event->accept();
 }
 
 }  // namespace tarnwick

@@ -2,8 +2,6 @@
 
 #include <QColor>
 #include <QFont>
-#include <QPointer>
-#include <QQuickItem>
 #include <QQuickWindow>
 #include <QThreadPool>
 #include <functional>
@@ -13,9 +11,11 @@
 #include "platform/motion/Animation.h"
 #include "platform/motion/Pause.h"
 #include "platform/threads/WeakDelegate.h"
-#include "platform/views/ActivityIndicatorView.h"
+#include "platform/views/InputBlocker.h"
 #include "platform/views/LabelView.h"
 #include "platform/windows/Cover.h"
+#include "ui/hud/ProgressHUDBox.h"
+#include "ui/hud/ProgressHUDIndicator.h"
 #include "ui/hud/ProgressHUDLayout.h"
 
 namespace tarnwick {
@@ -26,25 +26,19 @@ class ProgressHUD;
 class ProgressHUDDelegate {
 public:
     virtual ~ProgressHUDDelegate() = default;
-    virtual void hudWasHidden(ProgressHUD* hud) { static_cast<void>(hud); }
+    virtual void hudWasHidden(ProgressHUD* /*hud*/) {}
 };
 
 // The busy indicator: a translucent rounded box centred over a view, with an indicator and up to
 // two texts. What else the view holds gets no touch and no key while it is shown. A property may be
 // set on any thread: on another one than the main thread the change is handed over without waiting.
 // Everything else is for the main thread. Lengths in points, times in seconds.
-class ProgressHUD : public QQuickItem {
+class ProgressHUD : public InputBlocker {
     Q_OBJECT
 
 public:
-    enum Mode {
-        ModeIndeterminate = 0,
-        ModePie = 1,
-        ModeBar = 2,
-        ModeRing = 3,
-        ModeCustomView = 4,
-        ModeTextOnly = 5
-    };
+    using Mode = HUDMode;
+    using enum HUDMode;
     enum AnimationType { AnimationFade = 0, AnimationZoomDown = 1, AnimationZoomUp = 2 };
     using Block = std::function<void()>;
 
@@ -87,14 +81,14 @@ public:
     void setActivityIndicatorColor(const QColor& color);
 
     // These count from the next layout, drawing, show or hide. Main thread.
-    void setOpacityOfBox(double opacity);
-    void setColor(const QColor& color);
-    void setOffset(const QPointF& offset);
-    void setMargin(double margin);
-    void setCornerRadius(double radius);
-    void setMinSize(const QSizeF& size);
-    void setSquare(bool square);
-    void setDimBackground(bool dim);
+    void setOpacityOfBox(double opacity) { change(box_->fillOpacity, opacity); }
+    void setColor(const QColor& color) { change(box_->color, color); }
+    void setOffset(const QPointF& offset) { change(contents_.offset, offset); }
+    void setMargin(double margin) { change(contents_.margin, margin); }
+    void setCornerRadius(double radius) { change(box_->cornerRadius, radius); }
+    void setMinSize(const QSizeF& size) { change(contents_.minSize, size); }
+    void setSquare(bool square) { change(contents_.square, square); }
+    void setDimBackground(bool dim) { change(box_->dimBackground, dim); }
 
     // Plain values that nothing has to follow at once. Main thread.
     AnimationType animationType = AnimationFade;
@@ -107,12 +101,12 @@ public:
 
     void setDelegate(ProgressHUDDelegate* delegate) { delegate_.set(delegate); }
 
-    Mode mode() const { return mode_; }
+    Mode mode() const { return indicator_.mode(); }
     QString labelText() const { return label_->text(); }
     QString detailsLabelText() const { return detailsLabel_->text(); }
-    double progress() const { return progress_; }
+    double progress() const { return indicator_.progress(); }
     // The current indicator; none in text-only mode.
-    QQuickItem* indicator() const { return indicator_; }
+    QQuickItem* indicator() const { return indicator_.view(); }
     // Where the parts stand after the last layout.
     const HUDLayout& layout() const { return layout_; }
     bool isFinished() const { return finished_; }
@@ -121,20 +115,17 @@ protected:
     void updatePolish() override;
     void itemChange(ItemChange change, const ItemChangeData& data) override;
     void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void touchEvent(QTouchEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
 
 private:
-    class Box;
-
+    // Has the box laid out and drawn with the new value.
+    template <class Value>
+    void change(Value& stored, const Value& value) {
+        stored = value;
+        polish();
+    }
     void changeOnMainThread(Block change);
     void followParent();
-    void updateIndicators();
-    void replaceIndicator(QQuickItem* indicator);
-    void passProgressOn();
     void describeAll();
-    void redraw();
     void showNow();
     void coverSiblings();
     void hideNow();
@@ -143,20 +134,12 @@ private:
     void cleanUp();
     bool isShown() const { return sinceShown_->isRunning(); }
 
-    Box* box_;
+    ProgressHUDBox* box_;
     LabelView* label_;
     LabelView* detailsLabel_;
-    QPointer<QQuickItem> indicator_;
-    QSizeF indicatorSize_;
-    QPointer<QQuickItem> customView_;
-    Mode mode_ = ModeIndeterminate;
-    double progress_ = 0.0;
-    QColor activityIndicatorColor_ = Qt::white;
-    QPointF offset_;
-    double margin_ = 20.0;
-    QSizeF minSize_ = {0, 0};
-    bool square_ = false;
+    ProgressHUDIndicator indicator_;
 
+    HUDContents contents_;
     HUDLayout layout_;
     Animated useAnimation_ = Animated::No;
     bool finished_ = false;

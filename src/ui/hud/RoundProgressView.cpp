@@ -25,29 +25,9 @@ QRectF around(const QPointF& centre, double radius) {
 
 }  // namespace
 
-RoundProgressView::RoundProgressView(QQuickItem* parent) : QQuickPaintedItem(parent) {
+RoundProgressView::RoundProgressView(QQuickItem* parent) : PaintedView(parent) {
     setSize({extent, extent});
     setAntialiasing(true);
-}
-
-void RoundProgressView::setProgress(double progress) {
-    progress_ = progress;
-    update();
-}
-
-void RoundProgressView::setProgressTintColor(const QColor& color) {
-    progressTintColor_ = color;
-    update();
-}
-
-void RoundProgressView::setBackgroundTintColor(const QColor& color) {
-    backgroundTintColor_ = color;
-    update();
-}
-
-void RoundProgressView::setAnnular(bool annular) {
-    annular_ = annular;
-    update();
 }
 
 void RoundProgressView::paint(QPainter* painter) {

@@ -1,12 +1,13 @@
 #pragma once
 
 #include <QColor>
-#include <QQuickPaintedItem>
+
+#include "platform/views/PaintedView.h"
 
 namespace tarnwick {
 
 // A determinate indicator: a pie, or a ring. Every change redraws it. Main thread.
-class RoundProgressView : public QQuickPaintedItem {
+class RoundProgressView : public PaintedView {
     Q_OBJECT
     Q_PROPERTY(double progress READ progress WRITE setProgress)
 
@@ -14,11 +15,11 @@ public:
     explicit RoundProgressView(QQuickItem* parent = nullptr);
 
     double progress() const { return progress_; }
-    void setProgress(double progress);  // 0.0 to 1.0
-    void setProgressTintColor(const QColor& color);
-    void setBackgroundTintColor(const QColor& color);
+    void setProgress(double progress) { change(progress_, progress); }  // 0.0 to 1.0
+    void setProgressTintColor(const QColor& color) { change(progressTintColor_, color); }
+    void setBackgroundTintColor(const QColor& color) { change(backgroundTintColor_, color); }
     bool isAnnular() const { return annular_; }
-    void setAnnular(bool annular);
+    void setAnnular(bool annular) { change(annular_, annular); }
 
     void paint(QPainter* painter) override;
 
