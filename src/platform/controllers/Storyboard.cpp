@@ -15,13 +15,12 @@ std::unique_ptr<Object> objectFrom(const QUrl& file) {
     QQmlComponent component(&applicationQmlEngine(), file);
     if (!component.isReady())
         throw StoryboardError(component.errorString());
-    std::unique_ptr<QObject> object(component.create());
-    auto* wanted = qobject_cast<Object*>(object.get());
-    if (wanted == nullptr)
-        throw StoryboardError(QStringLiteral("%1 is not a %2")
-                                  .arg(file.toString(), Object::staticMetaObject.className()));
-    static_cast<void>(object.release());
-    return std::unique_ptr<Object>(wanted);
+    QObject* object = component.create();
+    if (auto* wanted = qobject_cast<Object*>(object))
+        return std::unique_ptr<Object>(wanted);
+    delete object;
+    throw StoryboardError(QStringLiteral("%1 is not a %2")
+                              .arg(file.toString(), Object::staticMetaObject.className()));
 }
 
 template <class Made>
@@ -92,8 +91,9 @@ void Storyboard::performSegue(ViewController& source, const QString& identifier)
     if (make == nullptr)
         throw StoryboardError(
             QStringLiteral("segue \"%1\": no class \"%2\"").arg(identifier, (*segue)->kind));
-    (*make)(
-        {identifier, source.shared_from_this(), instantiateViewController((*segue)->destination)})
+    (*make)({.identifier = identifier,
+             .source = source.shared_from_this(),
+             .destination = instantiateViewController((*segue)->destination)})
         ->perform();
 }
 

@@ -36,8 +36,6 @@ void ViewController::loadView() {
     setView(storyboard_ ? storyboard_->makeView(scene_) : new QQuickItem);
 }
 
-void ViewController::viewDidLoad() {}
-
 void ViewController::setView(QQuickItem* view) {
     view_ = view;
 }
@@ -94,14 +92,6 @@ void ViewController::removeFromParentViewController() {
     didMoveToParentViewController(nullptr);
 }
 
-void ViewController::willMoveToParentViewController(ViewController* parent) {
-    static_cast<void>(parent);
-}
-
-void ViewController::didMoveToParentViewController(ViewController* parent) {
-    static_cast<void>(parent);
-}
-
 void ViewController::cameFrom(std::shared_ptr<const Storyboard> storyboard, const QString& scene) {
     storyboard_ = std::move(storyboard);
     scene_ = scene;
@@ -111,14 +101,6 @@ void ViewController::performSegue(const QString& identifier) {
     if (!storyboard_)
         throw MissingSegue(QStringLiteral("no storyboard for segue \"%1\"").arg(identifier));
     storyboard_->performSegue(*this, identifier);
-}
-
-void ViewController::encodeRestorableState(StateCoder& coder) const {
-    static_cast<void>(coder);
-}
-
-void ViewController::decodeRestorableState(const StateCoder& coder) {
-    static_cast<void>(coder);
 }
 
 }  // namespace tarnwick

@@ -59,8 +59,8 @@ public:
     void addChildViewController(const std::shared_ptr<ViewController>& child);
     // The controller hears that it moved to no parent.
     void removeFromParentViewController();
-    virtual void willMoveToParentViewController(ViewController* parent);
-    virtual void didMoveToParentViewController(ViewController* parent);
+    virtual void willMoveToParentViewController(ViewController* /*parent*/) {}
+    virtual void didMoveToParentViewController(ViewController* /*parent*/) {}
 
     // The storyboard that the controller came from, and its scene there; none if it was made by
     // hand.
@@ -90,8 +90,8 @@ public:
     // State restoration; a controller without an identifier is not restored.
     QString restorationIdentifier;
     const QMetaObject* restorationClass = nullptr;  // that makes it anew; none: its scene does
-    virtual void encodeRestorableState(StateCoder& coder) const;
-    virtual void decodeRestorableState(const StateCoder& coder);
+    virtual void encodeRestorableState(StateCoder&) const {}
+    virtual void decodeRestorableState(const StateCoder&) {}
 
 signals:
     void titleChanged();
@@ -105,7 +105,7 @@ protected:
 
     // Makes the view: that of the scene, or a plain one.
     virtual void loadView();
-    virtual void viewDidLoad();
+    virtual void viewDidLoad() {}
     void setView(QQuickItem* view);
 
 private:

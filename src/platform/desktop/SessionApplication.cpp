@@ -63,14 +63,13 @@ public slots:
     }
 
     // There is nothing that the program opens: it only comes to the front.
-    void Open(const QStringList& uris, const QVariantMap& platform_data, const QDBusMessage& call) {
-        static_cast<void>(uris);
+    void Open([[maybe_unused]] const QStringList& uris, const QVariantMap& platform_data,
+              const QDBusMessage& call) {
         Activate(platform_data, call);
     }
 
-    void ActivateAction(const QString& action_name, const QVariantList& parameter,
+    void ActivateAction(const QString& action_name, [[maybe_unused]] const QVariantList& parameter,
                         const QVariantMap& platform_data, const QDBusMessage& call) {
-        static_cast<void>(parameter);
         if (!isActionName(action_name.toStdString())) {
             application_.refuse(call, QDBusError::InvalidArgs, "No name of an action.");
             return;

@@ -22,18 +22,6 @@ public:
 
 }  // namespace
 
-bool GestureRecognizerDelegate::gestureRecognizerShouldBegin(GestureRecognizer& recognizer) {
-    static_cast<void>(recognizer);
-    return true;
-}
-
-bool GestureRecognizerDelegate::gestureRecognizerShouldRecognizeSimultaneouslyWith(
-    GestureRecognizer& recognizer, GestureRecognizer& other) {
-    static_cast<void>(recognizer);
-    static_cast<void>(other);
-    return false;
-}
-
 GestureRecognizer::GestureRecognizer(std::function<void()> action, QObject* parent)
     : QObject(parent), action_(std::move(action)) {}
 
@@ -43,18 +31,6 @@ void GestureRecognizer::setDelegate(GestureRecognizerDelegate* delegate) {
 
 QPointF GestureRecognizer::location(const QQuickItem* view) const {
     return view != nullptr ? view->mapFromScene(touch_.position) : touch_.position;
-}
-
-void GestureRecognizer::touchBegan(const Touch& touch) {
-    static_cast<void>(touch);
-}
-
-void GestureRecognizer::touchMoved(const Touch& touch) {
-    static_cast<void>(touch);
-}
-
-void GestureRecognizer::touchEnded(const Touch& touch) {
-    static_cast<void>(touch);
 }
 
 bool GestureRecognizer::isActive() const {

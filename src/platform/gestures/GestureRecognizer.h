@@ -26,10 +26,12 @@ class GestureRecognizerDelegate {
 public:
     virtual ~GestureRecognizerDelegate() = default;
     // Asked when the touch has become the gesture, which is still Possible then; no fails it.
-    virtual bool gestureRecognizerShouldBegin(GestureRecognizer& recognizer);
+    virtual bool gestureRecognizerShouldBegin(GestureRecognizer&) { return true; }
     // Asked about two gestures of one touch. They run side by side if either's delegate agrees.
-    virtual bool gestureRecognizerShouldRecognizeSimultaneouslyWith(GestureRecognizer& recognizer,
-                                                                    GestureRecognizer& other);
+    virtual bool gestureRecognizerShouldRecognizeSimultaneouslyWith(
+        GestureRecognizer& /*recognizer*/, GestureRecognizer& /*other*/) {
+        return false;
+    }
 };
 
 // Follows one finger, or the mouse with its left button held, from the moment when it goes down on
@@ -58,9 +60,9 @@ protected:
     // For what the touch does. They say what it means with the calls below; delegates are asked and
     // the action is called once they have returned. Between two calls the touch may have been
     // decided on: look at the state.
-    virtual void touchBegan(const Touch& touch);
-    virtual void touchMoved(const Touch& touch);
-    virtual void touchEnded(const Touch& touch);
+    virtual void touchBegan(const Touch&) {}
+    virtual void touchMoved(const Touch&) {}
+    virtual void touchEnded(const Touch&) {}
 
     void begin() { wish_ = GestureState::Began; }
     void change() { wish_ = GestureState::Changed; }

@@ -55,7 +55,7 @@ void MailComposeViewController::setMessageBody(const QString& text, IsHtml isHtm
 
 void MailComposeViewController::addAttachmentData(const QByteArray& data, const QString& mimeType,
                                                   const QString& fileName) {
-    preset_.attachments.append({data, mimeType, fileName});
+    preset_.attachments.append({.data = data, .mimeType = mimeType, .fileName = fileName});
 }
 
 void MailComposeViewController::loadView() {

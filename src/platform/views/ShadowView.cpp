@@ -107,8 +107,7 @@ void ShadowView::setShadow(const Shadow& shadow) {
     update();
 }
 
-QSGNode* ShadowView::updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) {
-    static_cast<void>(data);
+QSGNode* ShadowView::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
     if (changed_ || shadow_.opacity <= 0 || size().isEmpty()) {
         delete old;
         old = nullptr;

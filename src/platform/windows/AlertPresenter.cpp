@@ -38,7 +38,8 @@ AlertTicket AlertPresenter::show(Alert alert, std::weak_ptr<AlertDelegate> deleg
     {
         const std::lock_guard lock(guard_);
         ticket.number = ++lastNumber_;
-        orders_.emplace_back(Arrival{ticket, std::move(alert), std::move(delegate), {}});
+        orders_.emplace_back(
+            Arrival{.ticket = ticket, .alert = std::move(alert), .delegate = std::move(delegate)});
     }
     carryOutOnMainThread();
     return ticket;
@@ -48,7 +49,8 @@ void AlertPresenter::dismiss(AlertTicket ticket, int buttonIndex, Animated anima
     {
         const std::lock_guard lock(guard_);
         if (!dismissWaiting(ticket, buttonIndex))
-            orders_.emplace_back(Dismissal{ticket, buttonIndex, animated});
+            orders_.emplace_back(
+                Dismissal{.ticket = ticket, .buttonIndex = buttonIndex, .animated = animated});
     }
     carryOutOnMainThread();
 }
@@ -101,7 +103,7 @@ void AlertPresenter::carryOut(const Arrival& arrival) {
     connect(view, &AlertView::buttonPressed, this,
             [this, ticket](int buttonIndex) { answer(ticket, buttonIndex); });
     connect(view, &AlertView::focusLost, this, [this, ticket] { keepFocus(ticket); });
-    shown_.push_back({ticket, view, arrival.delegate});
+    shown_.push_back({.ticket = ticket, .view = view, .delegate = arrival.delegate});
     view->appear();
     view->takeFocus(reason);
 }
@@ -148,7 +150,8 @@ void AlertPresenter::answer(AlertTicket ticket, int buttonIndex) {
     if (const auto listener = found->delegate.lock())
         listener->alertClickedButtonAtIndex(alert, buttonIndex);
     if (self)
-        carryOut(Dismissal{ticket, buttonIndex, Animated::Yes});
+        carryOut(
+            Dismissal{.ticket = ticket, .buttonIndex = buttonIndex, .animated = Animated::Yes});
 }
 
 void AlertPresenter::coverStage() {

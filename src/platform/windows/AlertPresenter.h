@@ -23,16 +23,10 @@ class AlertDelegate {
 public:
     virtual ~AlertDelegate() = default;
     // A button was pressed; the alert is still on the screen.
-    virtual void alertClickedButtonAtIndex(const Alert& alert, int index) {
-        static_cast<void>(alert);
-        static_cast<void>(index);
-    }
+    virtual void alertClickedButtonAtIndex(const Alert&, int /*index*/) {}
     // The alert has gone, by a button or by dismiss(). Told once for each alert, unless the
     // presenter goes first.
-    virtual void alertDidDismissWithButtonIndex(const Alert& alert, int index) {
-        static_cast<void>(alert);
-        static_cast<void>(index);
-    }
+    virtual void alertDidDismissWithButtonIndex(const Alert&, int /*index*/) {}
 };
 
 // Stands for one alert that was shown. One that was made by default stands for none.

@@ -47,7 +47,7 @@ RevealMove flickMove(const RevealSide& side, double width, double x, double velo
             journey = width + side.revealOverdraw - x;
         }
     }
-    return {target, std::abs(journey / velocity)};
+    return {.position = target, .duration = std::abs(journey / velocity)};
 }
 
 }  // namespace
@@ -123,7 +123,8 @@ RevealMove moveOnRelease(const RevealGeometry& geometry, double x, double veloci
     const int factor = factorOf(x);
     const RevealSide& side = geometry.sideOf(x);
     const double width = geometry.revealWidth(side);
-    RevealMove move = {slowTarget(side, width, x * factor), toggleAnimationDuration};
+    RevealMove move = {.position = slowTarget(side, width, x * factor),
+                       .duration = toggleAnimationDuration};
     if (std::abs(velocity) > quickFlickVelocity)
         move = flickMove(side, width, x * factor, velocity * factor);
     move.position = mirrored(move.position, factor);
@@ -138,15 +139,16 @@ RevealMove firstLegOfPush(RevealPosition position, double toggleAnimationDuratio
         target = FrontPositionSlidLeftMost;
     const int steps = std::abs(position - target);
     if (steps == 0)
-        return {target, 0};
-    return {target, steps == 1 ? toggleAnimationDuration * 0.8 : toggleAnimationDuration};
+        return {.position = target, .duration = 0};
+    return {.position = target,
+            .duration = steps == 1 ? toggleAnimationDuration * 0.8 : toggleAnimationDuration};
 }
 
 RevealProgress revealProgress(const RevealGeometry& geometry, double x) {
     const RevealSide& side = geometry.sideOf(x);
     const double width = geometry.revealWidth(side);
     const double outwards = x * factorOf(x);
-    return {outwards / width, (outwards - width) / side.revealOverdraw};
+    return {.progress = outwards / width, .overProgress = (outwards - width) / side.revealOverdraw};
 }
 
 }  // namespace tarnwick

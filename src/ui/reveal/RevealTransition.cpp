@@ -17,16 +17,9 @@ QQuickItem* ContextTransitionObject::viewOf(const Controller& controller) {
     return controller ? controller->view() : nullptr;
 }
 
-void ContextTransitionObject::completeTransition(bool finished) {
-    static_cast<void>(finished);
+void ContextTransitionObject::completeTransition(bool /*finished*/) {
     if (const auto completion = std::exchange(completion_, nullptr))
         completion();
-}
-
-double DefaultAnimationController::transitionDuration(
-    const ContextTransitionObject& context) const {
-    static_cast<void>(context);
-    return duration_;
 }
 
 void DefaultAnimationController::animateTransition(const Context& context) {

@@ -55,7 +55,7 @@ class DefaultAnimationController : public TransitionAnimationController {
 public:
     explicit DefaultAnimationController(double duration) : duration_(duration) {}
 
-    double transitionDuration(const ContextTransitionObject& context) const override;
+    double transitionDuration(const ContextTransitionObject&) const override { return duration_; }
     void animateTransition(const Context& context) override;
 
 private:

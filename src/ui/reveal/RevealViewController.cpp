@@ -167,7 +167,7 @@ void RevealViewController::setPosition(RevealPosition position, double duration)
 
 Course RevealViewController::course(double duration) const {
     if (toggleAnimationType == RevealToggleAnimationSpring)
-        return Spring{springDampingRatio, 1 / duration};
+        return Spring{.dampingRatio = springDampingRatio, .initialVelocity = 1 / duration};
     return Easing::Out;
 }
 
