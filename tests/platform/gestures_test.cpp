@@ -263,14 +263,12 @@ TEST_P(Gestures, ViewsRecognisersAndDelegatesMayGoDuringADrag) {
     EXPECT_EQ(goes, nullptr);
     EXPECT_EQ(presses(), 0);
 
-    for (const bool viewGoes : {false, true}) {
-        addGestureRecognizer(page.get(), &pan);
-        startToDrag();
-        viewGoes ? page.reset() : removeGestureRecognizer(page.get(), &pan);
-        finger.move(onRow);
-        finger.lift();
-        EXPECT_EQ(pan.states, (States{Began, Changed, Cancelled})) << viewGoes;
-    }
+    addGestureRecognizer(page.get(), &pan);
+    startToDrag();
+    page.reset();
+    finger.move(onRow);
+    finger.lift();
+    EXPECT_EQ(pan.states, (States{Began, Changed, Cancelled}));
 }
 
 TEST_P(Gestures, ATouchBelongsToTheTopmostViewThatShowsThere) {

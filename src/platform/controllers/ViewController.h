@@ -51,9 +51,6 @@ public:
 
     // Containment. The parent holds its children; a child tells nobody that it goes.
     ViewController* parentViewController() const { return parent_; }
-    const std::vector<std::shared_ptr<ViewController>>& childViewControllers() const {
-        return children_;
-    }
     // The child leaves its former parent and hears that it will move to this one; whoever adds it
     // tells it when it did.
     void addChildViewController(const std::shared_ptr<ViewController>& child);

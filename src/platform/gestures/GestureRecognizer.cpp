@@ -83,13 +83,6 @@ void addGestureRecognizer(QQuickItem* view, GestureRecognizer* recognizer) {
         recognizers.emplace_back(recognizer);
 }
 
-void removeGestureRecognizer(QQuickItem* view, GestureRecognizer* recognizer) {
-    if (auto* recognizers = findAttachment<Recognizers>(view))
-        std::erase(recognizers->all, recognizer);
-    if (recognizer->touchedView_ == view)
-        recognizer->cancel();
-}
-
 std::vector<GestureRecognizer*> gestureRecognizersOf(const QQuickItem* view) {
     std::vector<GestureRecognizer*> alive;
     if (const auto* recognizers = findAttachment<Recognizers>(view))

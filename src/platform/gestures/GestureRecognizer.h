@@ -79,7 +79,6 @@ protected:
 
 private:
     friend class GestureArbiter;
-    friend void removeGestureRecognizer(QQuickItem* view, GestureRecognizer* recognizer);
 
     void start(QQuickItem* view, const QPointF& position);
     void enter(GestureState state);
@@ -100,8 +99,6 @@ private:
 // A recogniser may be on several views, and a view may have several; neither owns the other, and
 // either may vanish first. The view need not be in a window yet. Main thread.
 void addGestureRecognizer(QQuickItem* view, GestureRecognizer* recognizer);
-// A gesture that goes on at this view is cancelled before this returns.
-void removeGestureRecognizer(QQuickItem* view, GestureRecognizer* recognizer);
 std::vector<GestureRecognizer*> gestureRecognizersOf(const QQuickItem* view);
 
 }  // namespace tarnwick

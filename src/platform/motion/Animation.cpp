@@ -50,15 +50,8 @@ void setValue(QQuickItem& item, Change::Property property, double value) {
 }
 
 double easedPart(Easing easing, double timePart) {
-    switch (easing) {
-        case Easing::Linear:
-            return timePart;
-        case Easing::InOut:
-            return QEasingCurve(QEasingCurve::InOutQuad).valueForProgress(timePart);
-        case Easing::Out:
-            return QEasingCurve(QEasingCurve::OutQuad).valueForProgress(timePart);
-    }
-    return timePart;
+    const auto curve = easing == Easing::InOut ? QEasingCurve::InOutQuad : QEasingCurve::OutQuad;
+    return QEasingCurve(curve).valueForProgress(timePart);
 }
 
 // The frequency at which a critically damped spring comes to rest in the duration.

@@ -11,7 +11,7 @@ enum class Animated { No, Yes };
 
 // How a change runs its course. Field terms: an easing curve, or a spring with a damping ratio (1.0
 // does not swing) and an initial velocity in distances per second.
-enum class Easing { Linear, InOut, Out };
+enum class Easing { InOut, Out };
 struct Spring {
     double dampingRatio = 1.0;
     double initialVelocity = 0.0;

@@ -33,10 +33,6 @@ void Pause::cancel() {
     animation_.stop();
 }
 
-bool Pause::isRunning() const {
-    return task_ != nullptr;
-}
-
 Stopwatch::Stopwatch(QObject* parent) : QObject(parent) {
     animation_.setDuration(std::numeric_limits<int>::max());
 }

@@ -18,7 +18,6 @@ public:
 
     void start(double seconds, std::function<void()> task);
     void cancel();
-    bool isRunning() const;
 
 private:
     QPauseAnimation animation_;

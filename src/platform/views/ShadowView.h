@@ -33,7 +33,6 @@ class ShadowView : public QQuickItem {
 public:
     explicit ShadowView(QQuickItem* parent);
 
-    const Shadow& shadow() const { return shadow_; }
     void setShadow(const Shadow& shadow);
 
 protected:

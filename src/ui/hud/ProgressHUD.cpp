@@ -281,13 +281,13 @@ void ProgressHUD::updatePolish() {
     contents_.bounds = size();
     contents_.indicator = indicator_.size();
     contents_.label = label_->sizeOnOneLine();
-    layout_ = layOut(contents_);
+    const HUDLayout layout = layOut(contents_);
     box_->setSize(size());
-    box_->frame = layout_.box;
+    box_->frame = layout.box;
     box_->update();
-    place(indicator_.view(), layout_.indicator);
-    place(label_, layout_.label);
-    place(detailsLabel_, layout_.details);
+    place(indicator_.view(), layout.indicator);
+    place(label_, layout.label);
+    place(detailsLabel_, layout.details);
 }
 
 void ProgressHUD::followParent() {

@@ -107,8 +107,6 @@ public:
     double progress() const { return indicator_.progress(); }
     // The current indicator; none in text-only mode.
     QQuickItem* indicator() const { return indicator_.view(); }
-    // Where the parts stand after the last layout.
-    const HUDLayout& layout() const { return layout_; }
     bool isFinished() const { return finished_; }
 
 protected:
@@ -140,7 +138,6 @@ private:
     ProgressHUDIndicator indicator_;
 
     HUDContents contents_;
-    HUDLayout layout_;
     Animated useAnimation_ = Animated::No;
     bool finished_ = false;
     std::unique_ptr<Cover> cover_;
