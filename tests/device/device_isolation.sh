@@ -1,10 +1,9 @@
 #!/usr/bin/env bash
-# Whatever root does on a device, the host does not notice.
+# Whatever root does on a device, the host is unaffected.
 # shellcheck source=tests/device/device_lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/device_lib.sh"
 
-# What an ordinary user may not look into is left out. The time of the last change to an inode cannot be set back, so
-# this sees every write, chmod and chown.
+# The time of an inode's last change cannot be set back, so this shows every write, chmod and chown.
 describe_host() {
     {
         find -H /usr /etc /sbin /var/lib/dpkg /dev/null /dev/zero /dev/tty "$repository/device" "$workspace/build" \
@@ -22,25 +21,26 @@ make_host() {
     start_host_process sleep
 }
 
-try_on_phone() {
-    refuse "root on the device cannot: $*" on_phone "$@"
-}
-
 # Nothing destructive is tried before it is known that the device has a root of its own.
 test_boundaries() {
     refuse "the host's folders are out of sight" on_phone test -e "$workspace/secret"
     same "the build's programs are on the path" "from the build" "$(on_phone greet)"
-    try_on_phone mount -o remount,bind,rw /usr
-    try_on_phone mount -o remount,rw /usr
-    try_on_phone umount /etc/ld.so.cache
-    try_on_phone mount -t tmpfs none /mnt
-    try_on_phone mknod /var/disk b 8 0
-    try_on_phone chmod 600 /dev/null
-    try_on_phone sh -c 'echo >>/opt/tarnwick/bin/greet'
-    try_on_phone sh -c ': >/proc/sysrq-trigger'
-    try_on_phone sh -c ': >/proc/sys/kernel/panic'
-    try_on_phone hostname another
-    try_on_phone sh -c 'echo >>/proc/1/exe'
+    local attempt
+    while read -r attempt; do
+        refuse "root on the device cannot: $attempt" on_phone sh -c "$attempt"
+    done <<'ATTEMPTS'
+mount -o remount,bind,rw /usr
+mount -o remount,rw /usr
+umount /etc/ld.so.cache
+mount -t tmpfs none /mnt
+mknod /var/disk b 8 0
+chmod 600 /dev/null
+echo >>/opt/tarnwick/bin/greet
+: >/proc/sysrq-trigger
+: >/proc/sys/kernel/panic
+hostname another
+echo >>/proc/1/exe
+ATTEMPTS
 }
 
 test_escapes() {

@@ -1,9 +1,24 @@
 #!/usr/bin/env bash
-# Devices are made, wiped and taken away, and nothing that is not a device ever is.
+# Devices are made, wiped and deleted, and nothing that is not a device ever is.
 # shellcheck source=tests/device/device_lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/device_lib.sh"
 
 safeguard=/var/mobile/Library/Preferences/Tarnwick
+
+# What a backup has to cope with.
+test_content() {
+    local like
+    same "every database is sound" ok "$(on_phone sh -c 'find /var/mobile /var/wireless \( -name "*.sqlite*" -o -name "*.db" \) \
+        -exec sqlite3 {} "PRAGMA integrity_check" \; | sort -u')"
+    for like in '-name "* *"' "-name \"*'*\"" "-name '*\"*\"*'" '-name "*ä*"' '-name "-*"' '-type d -empty' '-type f -empty' \
+        '-perm 600'; do
+        check "there is a file like $like" on_phone sh -c "find /var/mobile/Library /var/mobile/Media $like | grep -q ."
+    done
+    same "everything is its owner's" "" "$(on_phone sh -c \
+        'find /var/mobile ! -user mobile -o ! -group mobile; find /var/wireless ! -user _wireless -o ! -group _wireless')"
+    same "the pictures have the size that was asked for" "2000000 2000000 1000000" \
+        "$(on_phone sh -c "stat --format %s /var/mobile/Media/DCIM/101APPLE/* | xargs")"
+}
 
 fill_safeguard() {
     on_phone sh -c "mkdir -p $safeguard/TarnwickLibrary $safeguard/CydiaSources && cd $safeguard &&
@@ -12,61 +27,58 @@ fill_safeguard() {
         touch -d '2016-11-22 10:00:00.123456789' TarnwickLibrary/*.zip TarnwickLibrary CydiaSources ."
 }
 
-# What is where, whose and how it reads, with the times of files.
-describe() {
-    on_phone sh -c "find $1 \( -path $safeguard -o -path /etc/ld.so.preload -o -path /etc/alternatives \) -prune -o -printf '%p %M %u %g %l\n' \
-        -type f -printf '%T@\n' -exec md5sum {} + | sort"
-}
+describe_safeguard() { on_phone find "$safeguard" -printf '%p %M %u %g %T@ %s\n' -type f -exec md5sum {} +; }
 
-make_a_mess() {
-    on_phone sh -c 'rm -rf /var/mobile/Library/SMS /var/lib/dpkg /etc/passwd /sbin/reboot /Applications/Cydia.app
-        ln -s /var/tmp /var/mobile/Library/SMS; chmod 777 /var/mobile /var/mobile/Library; chown 0:0 /var/mobile/Library
-        echo more >>/var/mobile/Library/Notes/notes.sqlite; touch /etc/left /var/left' || true
+describe_rest() {
+    on_phone sh -c "find /var /etc /Applications /sbin \( -path $safeguard -o -path /etc/ld.so.preload -o -path /etc/alternatives \) -prune \
+        -o -printf '%p %M %u %g %l\n' -type f -printf '%T@\n' -exec md5sum {} + | sort"
 }
 
 test_wipe() {
-    local kept new
+    local list='cd /var && find mobile/Library mobile/Media wireless | sort' owned kept new
+    owned=$(on_phone sh -c "$list")
     device wipe "$phone"
-    new=$(describe '/var /etc /Applications /sbin')
+    new=$(describe_rest)
+    # A restore adds to what exists, so a wipe may leave nothing that the owner did not have.
+    same "what a wipe leaves existed before" "" "$(comm -13 <(echo "$owned") <(on_phone sh -c "$list"))"
     fill_safeguard
-    kept=$(on_phone find "$safeguard" -printf '%p %M %u %g %T@ %s\n' -type f -exec md5sum {} +)
-    make_a_mess
+    kept=$(describe_safeguard)
+    on_phone sh -c 'rm -rf /var/mobile/Library/SMS /var/lib/dpkg /etc/passwd /sbin/reboot /Applications/Cydia.app
+        ln -s /var/tmp /var/mobile/Library/SMS; chmod 777 /var/mobile /var/mobile/Library; chown 0:0 /var/mobile/Library
+        echo more >>/var/mobile/Library/Notes/notes.sqlite; touch /etc/left /var/left' || true
     device wipe "$phone"
-    same "a wipe keeps the safeguard folder" "$kept" \
-        "$(on_phone find "$safeguard" -printf '%p %M %u %g %T@ %s\n' -type f -exec md5sum {} +)"
-    same "everything else is as new" "$new" "$(describe '/var /etc /Applications /sbin')"
-    same "wipes are on record" 2 "$(device log "$phone" | grep -c ' wipe$')"
-}
-
-refused() {
-    same "refused: device $*" 2 "$(status_of device "$@")"
+    same "a wipe keeps the safeguard folder" "$kept" "$(describe_safeguard)"
+    same "everything else is as new" "$new" "$(describe_rest)"
 }
 
 test_wrong_usage() {
+    local words
     mkdir "$workspace/folder"
     touch "$workspace/folder/precious"
-    for verb in boot wipe offer log delete; do
-        refused "$verb"
-        refused "$verb" "$workspace/missing"
-        refused "$verb" "$workspace/folder"
-    done
-    check "a folder that is no device stays as it is" test -e "$workspace/folder/precious"
-    refused
-    refused fly
-    refused new
-    refused new "$workspace/folder"
-    refused new "$workspace/another" --photos many
-    refused new "$workspace/another" --photos
-    refused new "$workspace/another" --model 'a b'
-    refused new "$workspace/another" --colour red
-    refused boot "$phone" --colour
-    refused boot "$phone" --user nobody-of-that-name true
-    refused wipe "$phone" "$workspace/folder"
-    refused offer "$phone"
+    while read -r -a words; do
+        same "refused: device ${words[*]}" 2 "$(cd "$workspace" && status_of device "${words[@]}")"
+    done <<'WORDS'
+
+fly
+boot
+wipe missing
+offer folder
+log folder
+delete folder
+new folder
+new another --photos many
+new another --photos
+new another --model a/b
+new another --colour red
+boot phone --colour
+boot phone --user nobody-of-that-name true
+wipe phone folder
+offer phone
+WORDS
+    check "a folder that is not a device is unchanged" test -e "$workspace/folder/precious"
     refuse "nothing was made" test -e "$workspace/another"
 }
 
-# tar is called when files of several users are there already.
 test_failure_leaves_nothing() {
     mkdir "$workspace/stubs"
     ln -s /bin/false "$workspace/stubs/tar"
@@ -76,10 +88,11 @@ test_failure_leaves_nothing() {
     wait_until test -e "$workspace/half/factory.tar"
     kill -TERM $!
     wait $! || true
-    refuse "nor does it when it is told to stop" test -e "$workspace/half"
+    refuse "nor does it when it is told to end" test -e "$workspace/half"
 }
 
-device new "$phone"
+device new "$phone" --photos 5
+test_content
 test_wipe
 test_wrong_usage
 test_failure_leaves_nothing

@@ -1,31 +1,118 @@
 #!/usr/bin/env bash
-# The real dpkg and apt-get work on a device's own packages, without a network.
+# The real dpkg and apt-get work on a device's own packages, without a network, and on the device alone.
 # shellcheck source=tests/device/device_lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/device_lib.sh"
 
-installed() { on_phone dpkg-query --show --showformat '${Package}\n' | sort | xargs; }
+package=$workspace/sample.deb
+files="/usr/bin/sample-greet /usr/libexec/sample-grep /usr/share/sample/words"
 
-test_install_and_remove() {
-    check "a package and what it needs can be installed" on_phone apt-get -y install org.example.weatherbar
-    check "its files are there" on_phone test -f /etc/substrate/weatherbar.conf
-    check "it can be removed" on_phone apt-get -y purge org.example.weatherbar
-    refuse "its files are gone" on_phone test -e /etc/substrate/weatherbar.conf
-    check "the database is sound" on_phone sh -c 'test -z "$(dpkg --audit)"'
-}
+installed() { on_phone dpkg-query --show --showformat '${Package}\n' | sort | xargs; }
 
 test_selections_after_a_wipe() {
     local selections
+    same "the owner's packages are installed, the host's are not" \
+        "org.example.base org.example.dockclock org.example.lantern org.example.ringtones org.example.substrate org.example.tidepool" \
+        "$(installed)"
     selections=$(on_phone dpkg --get-selections)
     device wipe "$phone"
     same "a wipe leaves the packages of the jailbreak" "org.example.base org.example.substrate" "$(installed)"
     on_phone dpkg --set-selections <<<"$selections"
     check "the selected packages come back" on_phone apt-get -y dselect-upgrade
     same "the selections are as before" "$selections" "$(on_phone dpkg --get-selections)"
+    check "the database is sound" on_phone sh -c 'test -z "$(dpkg --audit)"'
+}
+
+make_package() {
+    local tree=$workspace/tree file
+    for file in $files /DEBIAN/control; do
+        mkdir -p "$tree${file%/*}"
+        echo words >"$tree$file"
+    done
+    printf '#!/bin/sh\necho hello\n' >"$tree/usr/bin/sample-greet"
+    cp /usr/bin/grep "$tree/usr/libexec/sample-grep"
+    chmod 755 "$tree/usr/bin/sample-greet"
+    chmod 4755 "$tree/usr/libexec/sample-grep"
+    cat >"$tree/DEBIAN/control" <<CONTROL
+Package: sample
+Version: 1:1.0-1
+Architecture: $(dpkg --print-architecture)
+Maintainer: Sample Repository <packages@example.org>
+Pre-Depends: dpkg (>= 1.15)
+Depends: zip (>= 3), nothing-of-the-kind | bash (>= 4), awk,
+ libc6
+Description: greets
+CONTROL
+    dpkg-deb --root-owner-group --build "$tree" "$package" >/dev/null
+}
+
+install_sample() { on_phone sh -c 'apt-get update && apt-get --yes install sample'; }
+
+# Prints those of the package's files that exist where the command runs them.
+sample_files() {
+    # shellcheck disable=SC2016,SC2086
+    "$@" sh -c 'for file; do test ! -e "$file" || echo "$file"; done' - $files | xargs
+}
+
+program_folder() { (cd "$phone/usr" && find . | sort); }
+
+test_offer_and_install() {
+    local before
+    before=$(<"$phone/repository/Packages")
+    echo text >"$workspace/text.deb"
+    refuse "a file that is not a package cannot be offered" device offer "$phone" "$package" "$workspace/text.deb"
+    same "and then none is" "$before" "$(<"$phone/repository/Packages")"
+    device offer "$phone" "$package"
+    check "a package can be offered again" device offer "$phone" "$package"
+    check "it is installed with what it needs of the workstation" install_sample
+    same "its files exist" "$files" "$(sample_files on_phone)"
+    same "its program runs" hello "$(on_phone sample-greet)"
+    same "its set-user-ID program has the rights of the device's root" "$(on_phone grep CapEff /proc/self/status)" \
+        "$(device boot "$phone" --user mobile /usr/libexec/sample-grep CapEff /proc/self/status)"
+    same "the workstation has none of them" "" "$(sample_files env)"
+}
+
+test_second_run() {
+    coproc first { on_phone sh -c 'echo up; read -r _'; }
+    read -r _ <&"${first[0]}"
+    same "a concurrent run has the program" hello "$(on_phone sample-greet)"
+    refuse "but cannot change it" on_phone touch /usr/bin/sample-greet
+    echo >&"${first[1]}"
+    # shellcheck disable=SC2154  # set by coproc
+    wait "$first_PID"
+    check "the next one can" on_phone touch /usr/bin/sample-greet
+}
+
+test_removal_and_wipe() {
+    check "the package can be purged" on_phone apt-get --yes purge sample
+    same "its files are gone" "" "$(sample_files on_phone)"
+    on_phone apt-get --yes install sample >/dev/null
+    on_phone rm /usr/bin/zip
+    device wipe "$phone"
+    same "after a wipe the programs are as new" "$as_new" "$(program_folder)"
+    check "the workstation's are back" on_phone test -e /usr/bin/zip
+    check "the package is still offered" install_sample
+}
+
+# An overlay cannot hold the upper folder of another one.
+test_without_overlay() {
+    ((EUID == 0)) || return 0
+    mkdir "$workspace/merged"
+    mount -t overlay -o "lowerdir=/usr,upperdir=$workspace/overlay/upper,workdir=$workspace/overlay/work" none \
+        "$workspace/merged"
+    trap 'umount "$workspace/merged"; clean_up' EXIT
+    phone=$workspace/merged/phone
+    device new "$phone"
+    same "without overlays the device starts silently" up "$(on_phone echo up 2>&1)"
+    refuse "and its programs are the workstation's alone" on_phone touch /usr/bin/sample-greet
+    device delete "$phone"
 }
 
 device new "$phone"
-same "the owner's packages are installed, the host's are not" \
-    "org.example.base org.example.dockclock org.example.lantern org.example.ringtones org.example.substrate org.example.tidepool" \
-    "$(installed)"
-test_install_and_remove
 test_selections_after_a_wipe
+has_overlays || skip "the rest, as there are no overlays here"
+make_package
+as_new=$(program_folder)
+test_offer_and_install
+test_second_run
+test_removal_and_wipe
+test_without_overlay

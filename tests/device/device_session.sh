@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# What a program on a device sees of its caller: the sockets of the desktop and a few settings, and nothing else.
+# A program on a device gets from its caller the sockets of the desktop and a few settings, and nothing else.
 # shellcheck source=tests/device/device_lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/device_lib.sh"
 
@@ -66,7 +66,7 @@ test_sockets() {
     refuse "the device cannot take a socket away" "${caller[@]}" "$repository/device/device" boot "$phone" rm "$x_socket"
 }
 
-# Whoever holds a terminal can type into it: the host's shell would run what a device typed.
+# A process with the terminal open could type into it, and the host's shell would run that.
 test_terminal() {
     local typing='for (split //, "typed\n") { ioctl STDIN, 0x5412, $_ }'
     same "nothing on the device can type into the caller's terminal" "[]" "$(

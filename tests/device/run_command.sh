@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The command where it is not at home: without root, without streams, at a terminal, with damaged archives.
+# The command under odd conditions: without root, without streams, at a terminal, with damaged archives.
 # shellcheck source=tests/device/run_lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/run_lib.sh"
 
@@ -28,7 +28,9 @@ same "but not with results that nobody gets" "tarnwick: the results cannot be wr
 status 1" "$(on_phone bash -c 'tarnwick list 2>&1 >/dev/full; echo "status $?"')"
 same "and from any folder" "SpringBoard Backup: Backup done !" \
     "$(on_phone bash -c 'cd /usr; rm "$1/SpringBoard.zip"; tarnwick save springboard' - "$library")"
-same "what the commands say is shown on demand" 1 "$(on_phone tarnwick save notes --verbose 2>&1 | grep -c notes.sqlite)"
+same "options for zip in the environment do not count" "SpringBoard.zip: good" \
+    "$(on_phone env ZIPOPT=-e ZIP="-x *" UNZIP=-Z UNZIPOPT=-Z bash -c 'tarnwick save springboard >/dev/null; tarnwick check springboard')"
+same "what the commands print is shown on demand" 1 "$(on_phone tarnwick save notes --verbose 2>&1 | grep -c notes.sqlite)"
 
 same "a no at the terminal changes nothing" "SpringBoard.zip: good" \
     "$(at_terminal n tarnwick remove backups >/dev/null; on_phone tarnwick check springboard)"

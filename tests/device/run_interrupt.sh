@@ -34,4 +34,23 @@ second 3
 list 0
 status 0" "$(during_save 'tarnwick save notes; echo "second $?"
     tarnwick list >/dev/null; echo "list $?"; wait $save; echo "status $?"' 2>&1)"
-same "the first one went on to its end" 12 "$(good_archives)"
+same "the first one went on to its end" "" "$(not_good)"
+
+# A job of an interactive shell, as only such a shell continues what it stopped.
+suspended() {
+    on_phone bash -c 'cat >/tmp/jobs <<"JOBS"
+set -m
+tarnwick save photos >/tmp/result 2>&1 &
+until killall -q -0 zip; do sleep 0.01; done
+kill -TSTP $!
+until [[ $(ps -o stat= -C tarnwick,zip | grep -vc "^T") == 0 ]]; do sleep 0.01; done
+echo "stopped"
+fg >/dev/null
+echo "status $?"
+JOBS
+        TERM=xterm script -qec "bash --norc /tmp/jobs" /dev/null | tr -d "\r"; cat /tmp/result'
+}
+
+same "Ctrl-Z stops the command with what it started, and fg continues them" "stopped
+status 0
+Photos and Videos Backup: Backup done !" "$(suspended)"

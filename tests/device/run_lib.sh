@@ -5,13 +5,16 @@ source "$(dirname "${BASH_SOURCE[0]}")/device_lib.sh"
 
 library=/var/mobile/Library/Preferences/Tarnwick/TarnwickLibrary
 
-# What is directly in the archive folder and is no archive.
+# shellcheck disable=SC2034
+table=$repository/tests/events/events.txt
+
+# Staging copies and other leftovers.
 not_archives() {
     on_phone find /var/tmp "$library" -mindepth 1 ! -name '*.zip'
 }
 
-good_archives() {
-    on_phone tarnwick check | grep -c ': good'
+not_good() {
+    on_phone tarnwick check 2>&1 | grep -v ': good$' || true
 }
 
 times_logged() {

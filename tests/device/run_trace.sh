@@ -3,24 +3,22 @@
 # shellcheck source=tests/device/run_lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/run_lib.sh"
 
-table=$repository/tests/events/events.txt
-
 scenes() {
     sed -n 's/^\[\(.*\)\]$/\1/p' "$table" | grep -v ',' | grep -vx questions
 }
 
-# What the table says that the scene starts and changes.
-told() {
+# What the scene starts and changes according to the table.
+expected() {
     sed -n "/^\[$1\]\$/,/^\$/p" "$table" | grep -E '^(run|remove|create folder): '
 }
 
-# From a trace of system calls: each shell that is started with a line, and each change that a process makes which
-# started no other program. Removing tries the path as a file first and then as a folder.
+# From a trace of system calls: each line given to a shell, and each change by a process that started no other program.
+# A removal tries the path as a file first and then as a folder.
 changes_in() {
     awk '
         function quoted(text) { sub(/^[^"]*"/, "", text); sub(/".*/, "", text); return text }
         NR == FNR { if (/execve\(/ && !/\/tarnwick"/) started[$1] = 1; next }
-        /execve\("\/bin\/sh", \["sh", "-c", "/ { line = $0; sub(/.*"-c", "/, "", line); sub(/"\].*/, "", line)
+        /execve\("\/bin\/sh", \["sh", "-c", ("--", )?"/ { line = $0; sub(/.*"-c", ("--", )?"/, "", line); sub(/"\].*/, "", line)
             print "run: " line; next }
         started[$1] || !/\) += 0$/ { next }
         /(rmdir|unlink)\("\// { print "remove: " quoted($0) }
@@ -28,7 +26,7 @@ changes_in() {
     ' "$1" "$1"
 }
 
-# The trace is fetched in a run of its own: a reboot ends the one that it tells of.
+# The trace is read in a run of its own, as a reboot ends the traced one.
 trace() {
     on_phone strace -f -qq -s 4096 -e trace=execve,unlink,rmdir,mkdir -o /var/root/trace \
         tarnwick "$@" --yes --then nothing >/dev/null 2>&1
@@ -46,7 +44,7 @@ prepare_for() {
     esac
 }
 
-# Making one folder makes those between: the trace shows them too.
+# Making a folder makes its parents, which the trace shows too.
 as_made() {
     case $1 in
         folders\ Tarnwick | folders) cat ;;
@@ -60,7 +58,7 @@ on_phone tarnwick folders >/dev/null
 while read -r -a words <&3; do
     verb="${words[*]}"
     prepare_for "$verb"
-    same "$verb: the run starts them and no other" "$(told "$verb" | as_made "$verb")" "$(trace "${words[@]}")"
+    same "$verb: the run starts them and no other" "$(expected "$verb" | as_made "$verb")" "$(trace "${words[@]}")"
 done 3< <(scenes)
 
 # These work with files alone, or look.

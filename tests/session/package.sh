@@ -7,7 +7,7 @@ safeguard=/var/mobile/Library/Preferences/Tarnwick
 
 saved() { on_phone find "$safeguard" -type f -exec sha256sum {} +; }
 
-# Whatever is called after the program, but the safeguard folder and what the phone's apt knows of packages.
+# Everything named after the program, except the safeguard folder and what apt knows of packages.
 traces() {
     on_phone find /usr /etc /var /Applications /sbin -xdev \( -path "$safeguard" -o -path /var/lib/apt -o -path /var/cache/apt \) -prune -o \
         -iname '*tarnwick*' -print

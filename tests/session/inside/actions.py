@@ -4,8 +4,10 @@ import os
 import subprocess
 import sys
 
-sys.path.insert(0, "/mnt/share/device")
-from window_lib import LIBRARY, SAFEGUARD, Alert, Window, ok, same
+sys.path.insert(0, "/mnt/share/window")
+from window import SAFEGUARD, Alert, Window, ok, same
+
+LIBRARY = SAFEGUARD + "/TarnwickLibrary"
 
 
 def act(name):
@@ -17,11 +19,11 @@ def act(name):
 def saves(window, name, title, file):
     act(name)
     window.answer(Alert(title, "Backup done !", ["Close"]))
-    window.wait_until_alerts_are_gone()
+    window.wait_until_free()
     window.wait_for_screen("Backup")
     if not os.path.exists(file):
         sys.exit(f"not ok: {file} is missing")
-    ok(f"{name} saves and tells so")
+    ok(f"{name} saves and reports it")
 
 
 window = Window("Restore")

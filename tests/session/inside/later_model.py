@@ -3,8 +3,8 @@
 import os
 import sys
 
-sys.path.insert(0, "/mnt/share/device")
-from window_lib import SAFEGUARD, Window, same
+sys.path.insert(0, "/mnt/share/window")
+from window import SAFEGUARD, Window, same
 
 window = Window("Backup")
 window.open_menu()

@@ -6,11 +6,10 @@ set -euo pipefail
 source /mnt/share/facts.sh
 
 session=/tmp/session
-# What the programs of the session say, and what they tell the system's log: a phone has none, but they also tell it to a
-# terminal.
+# The output of the session's programs and their log lines, which go to a terminal too, as a phone has no system log.
 said=$session/said
 
-# What was said tells why a fact does not hold.
+# The output explains a failure.
 end_session() {
     local status=$?
     jobs -p | xargs --no-run-if-empty kill 2>/dev/null || true
@@ -18,7 +17,7 @@ end_session() {
 }
 trap end_session EXIT
 
-# What a login gives its user, and no more.
+# With the environment of a login.
 as() {
     local user=$1
     shift
@@ -31,7 +30,7 @@ at_terminal() {
     as mobile script --quiet --flush --command "$*" --append "$said" </dev/null >/dev/null 2>&1 &
 }
 
-# A bus that also lets other users in, so that it is the program that turns them away.
+# A bus that lets other users in, so that the program itself has to refuse them.
 start_bus() {
     cat >"$session/bus.conf" <<'SETTINGS'
 <!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"

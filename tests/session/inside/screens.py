@@ -2,8 +2,8 @@
 
 import sys
 
-sys.path.insert(0, "/mnt/share/device")
-from window_lib import Window, ok
+sys.path.insert(0, "/mnt/share/window")
+from window import Window, ok
 
 Window(sys.argv[1])
 ok(f"the screen {sys.argv[1]} is in front")

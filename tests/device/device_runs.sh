@@ -1,0 +1,99 @@
+#!/usr/bin/env bash
+# A run has the phone's applications and model around its command, and ends with it or with its caller.
+# shellcheck source=tests/device/device_lib.sh
+source "$(dirname "${BASH_SOURCE[0]}")/device_lib.sh"
+
+applications="Contacts Cydia MobileCal MobileCydia MobileNotes MobilePhone MobileSMS MobileSafari MobileSlideShow backboardd"
+
+events() { device log "$phone" | cut -d' ' -f3- | sort; }
+
+test_command() {
+    local row
+    for row in "7:exit 7" "143:kill \$\$" "127:exec no-such-command" "126:exec /etc/passwd"; do
+        same "the status is a shell's: ${row#*:}" "${row%%:*}" "$(status_of on_phone sh -c "${row#*:}")"
+    done
+    same "input and output pass through" "$(seq 20000 | sha256sum)" "$(seq 20000 | on_phone cat | sha256sum)"
+    same "errors stay apart from output" words "$(on_phone sh -c 'echo words >&2; echo output' 2>&1 >/dev/null)"
+    same "the command gets three descriptors" "0 1 2" "$(on_phone ls /proc/self/fd 9</dev/null | sed '$d' | xargs)"
+}
+
+# Each one in a run of its own: the run ends at once, and the stop is logged all the same.
+test_applications() {
+    local name
+    same "the applications are up before the command, as mobile" "$applications" \
+        "$(on_phone ps -u mobile -o comm= | sort | xargs)"
+    start_host_process MobileSMS
+    for name in $applications; do
+        on_phone killall "$name"
+    done
+    same "every stop is logged" \
+        "$(for name in $applications; do echo "stopped $name"; done | sed 's/.*backboardd/respring/' | sort)" "$(events)"
+    check "the host's process of the same name goes on" kill -0 "${host_processes[0]}"
+    # shellcheck disable=SC2016
+    check "backboardd comes back as a new process" on_phone bash -c '
+        before=$(pgrep -x backboardd); killall -9 backboardd
+        until after=$(pgrep -x backboardd) && [[ $after != "$before" ]]; do :; done'
+}
+
+test_reboot() {
+    same "a reboot ends the run and says so" "device: rebooted" \
+        "$(on_phone sh -c 'killall Cydia; /sbin/reboot; echo returned' 2>&1)"
+    same "it is logged after what was stopped before" "stopped Cydia reboot" \
+        "$(device log "$phone" | tail -n 2 | cut -d' ' -f3- | xargs)"
+    same "it is not a failure" 0 "$(status_of on_phone reboot)"
+    refuse "mobile may not reboot" device boot "$phone" --user mobile reboot
+    refuse "mobile may not write to the log" device boot "$phone" --user mobile sh -c 'echo >>/run/device/log'
+}
+
+test_model() {
+    same "uname reports the model" iPhone8,2 "$(on_phone uname -m)"
+    same "and the rest unchanged" "$(uname -srv)" "$(on_phone uname -srv)"
+    on_phone sh -c 'cp /usr/bin/uname /usr/bin/id /var/db; chmod 4755 /var/db/uname /var/db/id'
+    same "a set-user-ID program has root's rights and sees the model too" "0 iPhone8,2" \
+        "$(device boot "$phone" --user mobile sh -c '/var/db/id -u; /var/db/uname -m' | xargs)"
+    device wipe "$phone"
+    same "a wipe does not change the hardware" iPhone8,2 "$(on_phone uname -m)"
+}
+
+descendants() {
+    local child
+    for child in $(pgrep -P "$1"); do
+        echo "$child"
+        descendants "$child"
+    done
+}
+
+# A zombie does nothing any more.
+all_gone() {
+    local process
+    for process in "$@"; do
+        [[ ! -e /proc/$process || $(ps -o stat= -p "$process") == Z* ]] || return 1
+    done
+}
+
+# ends_with FACT STATUS SIGNAL TARGET, which is - for the whole process group
+ends_with() {
+    local status=0 run processes
+    : >"$workspace/output"
+    # Background commands of a script ignore the interrupt, those of a terminal do not.
+    setsid env --default-signal=INT "$repository/device/device" boot "$phone" sh -c 'echo up; sleep 600' \
+        >"$workspace/output" &
+    run=$!
+    wait_until grep -q up "$workspace/output"
+    read -ra processes -d '' < <(descendants "$run") || true
+    kill -s "$3" -- "${4-}$run"
+    wait "$run" 2>/dev/null || status=$?
+    same "$1" "$2" "$status"
+    wait_until all_gone "${processes[@]}"
+    ((${#processes[@]} > 12)) || { echo "not ok: the run had too few processes: ${processes[*]}"; exit 1; }
+}
+
+device new "$phone" --model iPhone8,2
+test_command
+test_applications
+test_reboot
+test_model
+ends_with "an interrupt from the terminal ends the command" 130 INT -
+ends_with "a request to end takes the device along" 143 TERM
+ends_with "so does an end without warning" 137 KILL
+same "the device starts again" up "$(on_phone echo up)"

@@ -1,0 +1,68 @@
+"""A tour of the window on a device, whose folder is given: what only the real program on a real bus can show."""
+
+import pathlib
+import re
+import subprocess
+import sys
+
+from window import BUTTON, HEADING, Alert, Window, ok, same
+
+phone = pathlib.Path(sys.argv[1])
+scenes = pathlib.Path(__file__).parents[2] / "storyboard"
+window = Window()
+
+
+def captions(title):
+    """Of the scene's headings and buttons, which precede those of the bar."""
+    text = (scenes / f"{title}.qml").read_text()
+    return re.findall(r'(?:SectionHeading|ScreenButton) \{.* text: "([^"]*)"', text) + ["Menu", title]
+
+
+def check_screen(title, before=()):
+    window.wait_for("it is complete", lambda: window.names(HEADING, BUTTON) == [*before, *captions(title)])
+    same(f"{title}: everything has a name", [], window.nameless())
+
+
+def check_menu():
+    window.open_menu()
+    same("the menu precedes the screen", ["Tarnwick", "Backup", "Restore", "Cloud", "Options", "Help"],
+         window.names(HEADING, BUTTON)[:6])
+    window.press("Menu")
+    window.wait_for_screen("Backup")
+
+
+def check_save():
+    """With a zip that waits for as long as it is told to."""
+    hold = phone / "var/root/hold"
+    hold.touch()
+    stand_in = phone / "sbin/zip"
+    stand_in.write_text('#!/bin/bash\nwhile test -e /var/root/hold; do sleep 0.02; done\nexec /usr/bin/zip "$@"\n')
+    stand_in.chmod(0o755)
+    window.press("Notes")
+    window.hud("Backup in progress...")
+    hold.unlink()
+    done = Alert("Notes Backup", "Backup done !", ["Close"])
+    window.alert(done)
+    same("under an alert only its button is offered", ["Close"], window.names(HEADING, BUTTON))
+    window.answer(done)
+    window.wait_until_free()
+
+
+def check_escape():
+    window.press("Respring")
+    window.alert(Alert("Respring", "Do you really want to Respring your device ?", ["Cancel", "Respring"]))
+    subprocess.run(["xdotool", "search", "--onlyvisible", "--class", "Tarnwick", "windowfocus", "--sync", "key", "Escape"],
+                   check=True)
+    window.wait_until_free()
+    ok("Escape cancels a question")
+
+
+check_screen("Backup")
+check_menu()
+check_save()
+for screen, before in ("Restore", []), ("Cloud", ["Keep a copy elsewhere"]), ("Options", []):
+    window.go_to(screen)
+    check_screen(screen, before)
+check_escape()
+window.go_to("Help")
+same("Help: its questions are headings", 5, len(window.names(HEADING)))
