@@ -5,11 +5,21 @@ source "$(dirname "${BASH_SOURCE[0]}")/run_lib.sh"
 
 scenes() {
     sed -n 's/^\[\(.*\)\]$/\1/p' "$table" | grep -v ',' | grep -vx questions
+    printf '%s\n' "save all" "restore all"
 }
 
-# What the scene starts and changes according to the table.
+lines_of() {
+    sed -n "/^\[$1\]\$/,/^\$/p" "$table" | grep -E '^(run|remove|create folder): ' || true
+}
+
+# What the scene starts and changes according to the table. "all" is every item, with the one line that differs.
 expected() {
-    sed -n "/^\[$1\]\$/,/^\$/p" "$table" | grep -E '^(run|remove|create folder): '
+    local verb=${1% *} item own
+    [[ $1 == *' all' ]] || { lines_of "$1"; return; }
+    own=$(lines_of "$verb, all in one")
+    for item in $(scenes | sed -n "s/^$verb //p" | grep -vx 'packages\|all'); do
+        lines_of "$verb $item"
+    done | sed "s|^${own% *} .*|$own|"
 }
 
 # From a trace of system calls: each line given to a shell, and each change by a process that started no other program.
