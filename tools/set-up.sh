@@ -77,3 +77,11 @@ configure_and_build() {
 build() {
     logged "$1" configure_and_build "$@"
 }
+
+# Skips a check, with status 77, unless the tool is of the version that the check is written for.
+require_llvm() {
+    local wanted=14
+    "$1" --version | grep -q " version $wanted\." && return
+    echo "skipped: $1 $wanted is needed, this is $("$1" --version | grep -o 'version [0-9.]*' | head -n 1)"
+    exit 77
+}
