@@ -14,10 +14,10 @@ issues() {
 }
 same "the description is valid with pictures" "" "$(issues "$described")"
 same "and without" "" "$(issues "$build/packaging/$id.metainfo.xml")"
-check "the pictures are taken" "$build/bin/tarnwick-shots" --shots "$workspace/shots"
+check "the pictures are taken" "$build/bin/tarnwick-shots" --shots-at 2 "$workspace"
 readarray -t pictures < <(grep -o '[^/]*\.png' "$described")
 for picture in "${pictures[@]}"; do
-    check "$picture is one of them" test -s "$workspace/shots/$picture"
+    check "$picture is one of them" test -s "$workspace/$picture"
 done
 
 # The program reads the names as settings, in which these characters are syntax.
