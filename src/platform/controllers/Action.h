@@ -7,12 +7,12 @@
 
 namespace tarnwick {
 
-// What a button does when it is pressed. Belongs to the button.
+// What a press of a button does. Owned by the button.
 class Action : public QObject {
     Q_OBJECT
 
 public:
-    // The button is an item with a signal clicked(). What another action did before is forgotten.
+    // The button is an item with a signal clicked(). A former action of the button is replaced.
     static void set(QQuickItem* button, std::function<void()> act);
 
 private slots:

@@ -10,8 +10,8 @@ namespace tarnwick {
 
 namespace {
 
-constexpr double usualFontSize = 15.0;  // pixels: what desktops come with is 12 to 15
-constexpr double largestScale = 2.0;    // words still fit on the narrowest screen
+constexpr double usualFontSize = 15.0;  // pixels; desktops use 12 to 15 by default
+constexpr double largestScale = 2.0;    // texts still fit on the narrowest screen
 
 int scaled(int pixels) {
     return static_cast<int>(std::lround(pixels * Look::textScale()));

@@ -7,8 +7,8 @@
 
 namespace tarnwick {
 
-// The application's colour and the sizes of its texts, in pixels: the one place that scenes take
-// them from. Texts grow with the font that the user has chosen for the system. Main thread.
+// The application's tint and text sizes, in pixels: the only source of both for scenes. Texts grow
+// with the font that the user has chosen for the system. Main thread.
 class Look : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -20,11 +20,11 @@ class Look : public QObject {
     Q_PROPERTY(int body READ body CONSTANT)
 
 public:
-    // Of buttons, links and selections: the palette's highlight. The application sets it before it
-    // loads its scenes.
+    // The colour of buttons, links and selections: the palette's highlight. The application sets it
+    // before it loads its scenes.
     static QColor tint();
     static void setTint(const QColor& color);
-    // 1 for a system's usual font, up to 2 for larger ones.
+    // From 1 for a usual system font up to 2 for larger ones.
     static double textScale();
     static int headline();  // titles of alerts, captions of buttons
     static int callout();   // running text of screens

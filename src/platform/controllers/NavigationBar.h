@@ -11,34 +11,35 @@
 
 namespace tarnwick {
 
-// The height that a navigation bar takes, in points, on any screen.
+// The height of every navigation bar, in points.
 constexpr double navigationBarHeight = 44.0;
 
-// A button of a navigation bar. A scene declares it with its words and its symbol; who uses it
-// gives it its action. Main thread.
+// A button of a navigation bar. The scene declares it with its title and symbol, the controller
+// sets its action. Main thread.
 class BarButtonItem : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QString title MEMBER title_ NOTIFY wordsChanged)
-    Q_PROPERTY(QString symbol MEMBER symbol_ NOTIFY wordsChanged)
+    Q_PROPERTY(QString title MEMBER title_ NOTIFY changed)
+    Q_PROPERTY(QString symbol MEMBER symbol_ NOTIFY changed)
 
 public:
     using QObject::QObject;
 
-    // Nothing happens while there is none.
+    // A press does nothing until an action is set.
     void setAction(std::function<void()> action) { action_ = std::move(action); }
     Q_INVOKABLE void press() const;
 
 signals:
-    void wordsChanged();
+    void changed();
 
 private:
-    QString title_;   // what it is called; drawn if there is no symbol
+    QString title_;   // drawn if there is no symbol; always the accessible name
     QString symbol_;  // of SymbolView
     std::function<void()> action_;
 };
 
-// How the navigation bars of the application look; a bar takes what is set when it is made.
+// How the application's navigation bars look. A bar takes the values that are set when it is
+// created.
 struct NavigationBarLook {
     QColor barTint = Qt::white;
     QColor itemTint = Qt::black;
@@ -47,7 +48,7 @@ struct NavigationBarLook {
     QColor titleShadowColor = Qt::transparent;
     QPointF titleShadowOffset;
 
-    // The application's own look, which belongs to the application object. Main thread.
+    // The application's own look, owned by the application object. Main thread.
     static NavigationBarLook& ofApplication();
 };
 

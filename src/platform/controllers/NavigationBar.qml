@@ -1,7 +1,7 @@
 import QtQuick
 import Tarnwick
 
-// A bar with a screen's title and one button at its left.
+// A bar with a screen's title and one button on the left.
 Rectangle {
     id: bar
 

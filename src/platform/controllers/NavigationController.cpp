@@ -16,10 +16,10 @@ QVariantMap barProperties() {
             {"titleFont", look.titleFont},
             {"titleShadowColor", look.titleShadowColor},
             {"titleShadowOffset", look.titleShadowOffset},
-            {"z", 1}};  // what scrolls goes below it
+            {"z", 1}};  // above content that scrolls
 }
 
-// The bar at the top, the content below it.
+// The bar at the top, with the content below.
 class NavigationView : public QQuickItem {
 public:
     NavigationView()

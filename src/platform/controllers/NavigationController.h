@@ -5,8 +5,8 @@
 
 namespace tarnwick {
 
-// Holds one screen below a navigation bar that shows the screen's title and its bar button. A
-// screen from a storyboard is made when the view is, over the segue "root". Main thread.
+// Holds one screen below a navigation bar with the screen's title and bar button. In a storyboard,
+// the segue "root" leads to the screen; it is created with the view. Main thread.
 class NavigationController : public ViewController {
     Q_OBJECT
 
@@ -14,7 +14,7 @@ public:
     static constexpr const char* segueRootIdentifier = "root";
 
     const std::shared_ptr<ViewController>& rootViewController() const { return root_; }
-    // Takes the place of the one before. Never none.
+    // Replaces the former one. Must not be null.
     void setRootViewController(const std::shared_ptr<ViewController>& root);
 
 protected:

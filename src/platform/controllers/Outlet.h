@@ -8,9 +8,9 @@
 
 namespace tarnwick {
 
-// A controller's weak reference to an element of its view, by the element's object name. Declared
-// as the controller's field; connected when the view is loaded, which fails if the scene has no
-// such element.
+// A controller's weak reference to an element of its view, by object name. Declared as a field of
+// the controller and connected when the view is loaded, which fails if the scene has no such
+// element.
 class OutletBase {
 public:
     OutletBase(ViewController* owner, const char* name);
@@ -19,7 +19,7 @@ public:
     OutletBase& operator=(const OutletBase&) = delete;
 
     QString name() const { return QString::fromLatin1(name_); }
-    // Looks the element up in the view; false if there is none of this name and class.
+    // Looks up the element in the view; false if there is none of this name and class.
     virtual bool connectIn(const QObject& view) = 0;
 
 private:

@@ -11,24 +11,25 @@
 
 namespace tarnwick {
 
-// What controllers write their state to and read it from: values under keys, in the order in which
-// they were written. A controller is written as its restoration identifier, which is also the
-// identifier of its scene.
+// Where controllers save and restore their state: values under keys, in the order in which they
+// were written. A controller is stored as its restoration identifier, which is also the identifier
+// of its scene.
 class StateCoder {
 public:
     explicit StateCoder(std::shared_ptr<const Storyboard> storyboard = {})
         : storyboard_(std::move(storyboard)) {}
 
-    // The storyboard that restored controllers are made from; may be none.
+    // The storyboard that creates restored controllers; may be null.
     const std::shared_ptr<const Storyboard>& storyboard() const { return storyboard_; }
 
     void encode(const QString& key, const QVariant& value) { values_.emplace_back(key, value); }
     void encodeController(const QString& key, const ViewController* controller);
     QStringList keys() const;
 
-    // An invalid value if the key was not written.
+    // Invalid if the key was not written.
     QVariant decode(const QString& key) const;
-    // A new controller from the storyboard; none if there is no storyboard, no such key or scene.
+    // A new controller from the storyboard; null without a storyboard, or if there is no such key
+    // or scene.
     std::shared_ptr<ViewController> decodeController(const QString& key) const;
 
 private:

@@ -5,14 +5,14 @@
 
 namespace tarnwick {
 
-// The frame of the system's status bar over the window, in points: empty, as Linux draws none
-// there.
+// The frame of the system's status bar over the window, in points: empty, as there is none on
+// Linux.
 inline QRectF statusBarFrame() {
     return {};
 }
 
-// The height by which a view has to make room for the status bar; the bar's smaller side is its
-// height, whichever way the device is held.
+// The space that a view leaves for the status bar: its smaller side, which is its height however
+// the device is held.
 inline double statusBarAdjustment(const QRectF& statusBar, const QRectF& viewInWindow) {
     return statusBar.intersects(viewInWindow) ? std::min(statusBar.width(), statusBar.height()) : 0;
 }

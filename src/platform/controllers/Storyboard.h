@@ -16,7 +16,7 @@
 
 namespace tarnwick {
 
-// A way out of a scene, as the storyboard's file declares it.
+// A way out of a scene, as declared in the storyboard file.
 class SegueDeclaration : public QObject {
     Q_OBJECT
     QML_NAMED_ELEMENT(Segue)
@@ -27,10 +27,10 @@ class SegueDeclaration : public QObject {
 public:
     QString identifier;
     QString destination;  // a scene's identifier
-    QString kind;         // the name of the class that performs it
+    QString kind;         // the name of its class
 };
 
-// A controller with its view, as the storyboard's file declares it.
+// A controller with its view, as declared in the storyboard file.
 class SceneDeclaration : public QObject {
     Q_OBJECT
     QML_NAMED_ELEMENT(Scene)
@@ -43,14 +43,14 @@ class SceneDeclaration : public QObject {
 public:
     QString identifier;
     QString controller;  // the name of its class
-    QUrl view;           // the file of the view; none if the controller makes it
+    QUrl view;           // the file of the view; empty if the controller creates it
     QList<SegueDeclaration*> segues;
 
 private:
     QQmlListProperty<SegueDeclaration> segueList() { return {this, &segues}; }
 };
 
-// The root of a storyboard's file.
+// The root element of a storyboard file.
 class StoryboardDeclaration : public QObject {
     Q_OBJECT
     QML_NAMED_ELEMENT(Storyboard)
@@ -66,7 +66,7 @@ private:
     QQmlListProperty<SceneDeclaration> sceneList() { return {this, &scenes}; }
 };
 
-// A way from one controller to another that is about to be gone; each kind is a class of its own.
+// A transition from one controller to another, about to be performed; each kind is a subclass.
 class StoryboardSegue {
 public:
     struct Ends {
@@ -89,7 +89,7 @@ private:
     Ends ends_;
 };
 
-// The classes that a storyboard's file names.
+// The classes that a storyboard file refers to.
 class StoryboardClasses {
 public:
     using MakeController = std::function<std::shared_ptr<ViewController>()>;
@@ -105,7 +105,7 @@ public:
         };
     }
 
-    // Nothing if there is no such class.
+    // Null if there is no such class.
     const MakeController* controller(const QString& name) const;
     const MakeSegue* segue(const QString& name) const;
 
@@ -114,8 +114,8 @@ private:
     std::map<QString, MakeSegue> segues_;
 };
 
-// The scenes of a program and the ways between them, from one file. Main thread. All operations
-// throw a StoryboardError that says what the file lacks; nothing has happened then.
+// The scenes of a program and the ways between them, from one file. All operations throw a
+// StoryboardError, without other effects, if the file lacks something. Main thread.
 class Storyboard : public std::enable_shared_from_this<Storyboard> {
 public:
     static std::shared_ptr<const Storyboard> load(const QUrl& file, StoryboardClasses classes);
@@ -123,7 +123,7 @@ public:
     bool hasScene(const QString& identifier) const { return find(identifier) != nullptr; }
     std::shared_ptr<ViewController> instantiateInitialViewController() const;
     std::shared_ptr<ViewController> instantiateViewController(const QString& scene) const;
-    // The scene's view, or a plain one where the scene has none; it belongs to the caller.
+    // The scene's view, or a plain item if the scene has none; owned by the caller.
     QQuickItem* makeView(const QString& scene) const;
     void performSegue(ViewController& source, const QString& identifier) const;
 

@@ -8,7 +8,7 @@
 
 namespace tarnwick {
 
-// How a cell looks while it is pressed.
+// How a pressed cell looks.
 enum class CellSelectionStyle { None = 0, Blue = 1, Gray = 2 };
 
 struct IndexPath {
@@ -16,8 +16,8 @@ struct IndexPath {
     int row;
 };
 
-// A list of rows. The scene has a column for the rows, and prototype cells, each with its
-// `reuseIdentifier`; the controller says which cell stands in which row. Main thread.
+// A list of rows. The scene has a column for the rows and prototype cells, each with a
+// `reuseIdentifier`; the controller says which cell is in which row. Main thread.
 class TableViewController : public ViewController {
     Q_OBJECT
 
@@ -30,9 +30,9 @@ public:
     virtual QQuickItem* cellForRowAtIndexPath(const IndexPath& path) = 0;
 
 protected:
-    // Fills the rows; to be called at the end of a subclass's own.
+    // Fills the rows. Subclasses call it at the end of their own.
     void viewDidLoad() override;
-    // The prototype of this identifier. Throws a StoryboardError if the scene has none.
+    // The prototype with this identifier. Throws a StoryboardError if the scene has none.
     QQuickItem* dequeueReusableCellWithIdentifier(const QString& identifier) const;
     static void setSelectionStyle(QQuickItem* cell, CellSelectionStyle style);
 };

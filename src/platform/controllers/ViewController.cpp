@@ -51,7 +51,7 @@ void ViewController::addAction(const QString& name, std::function<void(QQuickIte
     actions_[name] = std::move(action);
 }
 
-// A button says which action it is for with `actionName`, or which segue with `segueName`.
+// A button names its action in `actionName` or its segue in `segueName`.
 void ViewController::connectActions() {
     for (QQuickItem* item : view_->findChildren<QQuickItem*>()) {
         const QString name = item->property("actionName").toString();

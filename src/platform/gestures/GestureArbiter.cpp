@@ -15,7 +15,7 @@ const QMouseEvent* asMouse(const QPointerEvent* event) {
     return event->isSinglePointEvent() ? static_cast<const QMouseEvent*>(event) : nullptr;
 }
 
-// One finger, or the left button alone.
+// One finger, or only the left button.
 bool isSimple(const QPointerEvent* event) {
     const QMouseEvent* mouse = asMouse(event);
     return mouse != nullptr ? mouse->buttons() == Qt::LeftButton : event->pointCount() == 1;
@@ -30,7 +30,7 @@ bool isReplay(const QEvent* event) {
     return event->isPointerEvent() && !event->spontaneous() && event->type() != QEvent::TouchCancel;
 }
 
-// Flicking content, sliders and the like keep the grab once they follow the touch.
+// A Flickable, a slider and the like keep the grab once they follow the touch.
 bool isKeptByAnItem(const QPointerEvent* event) {
     const auto keeps = [event](const QEventPoint& point) {
         const auto* item = qobject_cast<QQuickItem*>(event->exclusiveGrabber(point));
@@ -45,7 +45,7 @@ GestureArbiter::GestureArbiter(QQuickWindow* window, std::function<void(QEvent*)
     : window_(window), deliver_(std::move(deliver)) {}
 
 bool GestureArbiter::takes(QEvent* event) {
-    // Flicking content that had held a press back sends it through the window once more.
+    // A Flickable that held back a press sends it through the window once more.
     if (isReplay(event))
         return false;
     switch (event->type()) {
@@ -54,7 +54,7 @@ bool GestureArbiter::takes(QEvent* event) {
             return takesPress(static_cast<QPointerEvent*>(event));
         case QEvent::TouchUpdate:
         case QEvent::MouseMove:
-        case QEvent::MouseButtonDblClick:  // follows the press of a second click
+        case QEvent::MouseButtonDblClick:  // follows the press in a double click
             return takesMove(static_cast<QPointerEvent*>(event));
         case QEvent::TouchEnd:
         case QEvent::MouseButtonRelease:
@@ -64,7 +64,7 @@ bool GestureArbiter::takes(QEvent* event) {
             return false;
         case QEvent::TouchCancel:
         case QEvent::Hide:
-            // No end of the touch comes after these.
+            // The touch will not be reported to end after these.
             interrupt();
             forget();
             return false;
@@ -81,7 +81,7 @@ bool GestureArbiter::takesPress(QPointerEvent* event) {
         preventPress(event);
         return taken_;
     }
-    // If another touch was followed until now, its end got lost.
+    // If a touch is still followed, its end got lost.
     forget();
     start(event);
     return taken_;
@@ -138,7 +138,7 @@ void GestureArbiter::feed(Handler handler, QPointerEvent* event) {
     const Touch touch = {.position = event->point(0).position(),
                          .milliseconds = static_cast<qint64>(event->timestamp())};
     lastPosition_ = touch.position;
-    // A copy, for actions and delegates may do anything.
+    // A copy, as actions and delegates may change the list.
     for (const QPointer<GestureRecognizer>& recognizer : std::vector(recognizers_)) {
         if (recognizer.isNull() || !recognizer->isUndecided())
             continue;
@@ -158,15 +158,15 @@ void GestureArbiter::feed(Handler handler, QPointerEvent* event) {
 }
 
 void GestureArbiter::decide(const QPointer<GestureRecognizer>& recognizer, QPointerEvent* event) {
-    const auto wish = std::exchange(recognizer->wish_, std::nullopt);
-    if (!wish)
+    const auto requested = std::exchange(recognizer->requested_, std::nullopt);
+    if (!requested)
         return;
-    if (!recognizer->isPossible() || *wish == GestureState::Failed) {
-        recognizer->enter(*wish);
+    if (!recognizer->isPossible() || *requested == GestureState::Failed) {
+        recognizer->enter(*requested);
         return;
     }
-    const bool may = mayBegin(recognizer, *wish, event);
-    // Whoever was asked may have removed it meanwhile.
+    const bool may = mayBegin(recognizer, *requested, event);
+    // A delegate may have removed it.
     if (recognizer.isNull() || !recognizer->isPossible())
         return;
     if (!may) {
@@ -176,12 +176,12 @@ void GestureArbiter::decide(const QPointer<GestureRecognizer>& recognizer, QPoin
     failRivalsOf(recognizer);
     takeFromItems(event);
     if (recognizer && recognizer->isPossible())
-        recognizer->enter(*wish);
+        recognizer->enter(*requested);
 }
 
-bool GestureArbiter::mayBegin(const QPointer<GestureRecognizer>& recognizer, GestureState wish,
+bool GestureArbiter::mayBegin(const QPointer<GestureRecognizer>& recognizer, GestureState requested,
                               QPointerEvent* event) {
-    const bool isDrag = wish == GestureState::Began;
+    const bool isDrag = requested == GestureState::Began;
     if (isDrag && isKeptByAnItem(event))
         return false;
     if (!recognizer->shouldBegin()) {
@@ -211,8 +211,8 @@ void GestureArbiter::takeFromItems(QPointerEvent* event) {
         return;
     deliverHeldMoves(event);
     for (const QEventPoint& point : event->points()) {
-        // Through another grabber: content that watches its children's touches takes notice only
-        // when a child loses the touch to somebody.
+        // Through another grabber: a Flickable that watches its children notices only if a child
+        // loses the touch to somebody else.
         event->setExclusiveGrabber(point, window_->contentItem());
         event->clearPassiveGrabbers(point);
     }
@@ -224,8 +224,8 @@ void GestureArbiter::takeFromItems(QPointerEvent* event) {
     event->setExclusiveGrabber(event->point(0), nullptr);
 }
 
-// A button has no notion of a drag: the touch is taken from it when it would press. Until then
-// flicking content may take the touch and go on with it.
+// A button does not distinguish a drag from a press: the touch is taken from it when it would
+// press. Until then a Flickable may take the touch over.
 void GestureArbiter::preventPress(QPointerEvent* event) {
     if (!refusedDrag_ || taken_)
         return;
@@ -234,7 +234,7 @@ void GestureArbiter::preventPress(QPointerEvent* event) {
         takeFromItems(event);
 }
 
-// A touch's movements are held back until the next frame. Without that frame they would come to the
+// Qt holds back a touch's movements until the next frame. Without that frame they would reach the
 // items after the end of the touch.
 void GestureArbiter::deliverHeldMoves(const QPointerEvent* event) {
     if (asMouse(event) != nullptr)

@@ -10,19 +10,19 @@
 
 namespace tarnwick {
 
-// Decides whose a touch is: the recognisers' of the views that it went down on, or the items'. Both
-// see it until a recogniser begins; from then on the items see nothing of it, and lose what they
-// had pressed. One touch at a time: a second finger, another button or the loss of the window's
-// focus ends the gestures. Main thread.
+// Decides who gets a touch: the recognisers of the views that it started on, or the items. Both see
+// it until a recogniser begins; from then on the items see nothing of it, and their press is
+// cancelled. One touch at a time: a second finger, another button or the loss of the window's focus
+// ends the gestures. Main thread.
 class GestureArbiter {
 public:
-    // Events that the items shall have without the arbiter being asked go to the function.
+    // `deliver` passes an event to the items without asking the arbiter.
     GestureArbiter(QQuickWindow* window, std::function<void(QEvent*)> deliver);
 
-    // For every event of the window, before the items have it; yes means that they shall not.
+    // To be called for every event of the window before the items get it; true keeps it from them.
     bool takes(QEvent* event);
 
-    // Ends the gestures of the touch that goes on; nothing more comes of it until all is up.
+    // Ends the gestures of the current touch, which has no further effect.
     void interrupt();
 
 private:
@@ -35,7 +35,7 @@ private:
     void start(QPointerEvent* event);
     void feed(Handler handler, QPointerEvent* event);
     void decide(const QPointer<GestureRecognizer>& recognizer, QPointerEvent* event);
-    bool mayBegin(const QPointer<GestureRecognizer>& recognizer, GestureState wish,
+    bool mayBegin(const QPointer<GestureRecognizer>& recognizer, GestureState requested,
                   QPointerEvent* event);
     void failRivalsOf(const QPointer<GestureRecognizer>& recognizer);
     static bool mayRunTogether(const QPointer<GestureRecognizer>& one,
@@ -47,11 +47,11 @@ private:
 
     QQuickWindow* window_;
     std::function<void(QEvent*)> deliver_;
-    const QInputDevice* device_ = nullptr;  // of the touch that is followed, compared only
+    const QInputDevice* device_ = nullptr;  // of the followed touch; only compared
     std::vector<QPointer<GestureRecognizer>> recognizers_;
     QPointF lastPosition_;
     bool taken_ = false;        // the items have lost the touch
-    bool refusedDrag_ = false;  // it must not end as a press
+    bool refusedDrag_ = false;  // the touch must not end as a press
 };
 
 }  // namespace tarnwick

@@ -47,7 +47,7 @@ bool GestureRecognizer::isDrag(const QPointF& way) {
 
 void GestureRecognizer::start(QQuickItem* view, const QPointF& position) {
     state_ = GestureState::Possible;
-    wish_.reset();
+    requested_.reset();
     touchedView_ = view;
     start_ = position;
 }
@@ -56,7 +56,7 @@ void GestureRecognizer::enter(GestureState state) {
     state_ = state;
     if (state == GestureState::Failed || !action_)
         return;
-    // A copy, for the action may delete the recogniser.
+    // A copy, as the action may delete the recogniser.
     const auto action = action_;
     action();
 }

@@ -24,7 +24,7 @@ QQuickItem* hitTest(QQuickItem* root, const QPointF& scenePoint) {
     if (bounds && !inside)
         return nullptr;
     for (QQuickItem* child : childrenFromTheTop(root)) {
-        // A negative z is below the parent's own picture.
+        // A negative z is below the parent's own content.
         if (child->z() < 0 && inside)
             return root;
         if (QQuickItem* hit = hitTest(child, scenePoint))

@@ -5,11 +5,11 @@
 
 namespace tarnwick {
 
-// Named on an item whose children get no touch where the item itself has none.
+// A property that keeps touches outside an item's bounds from its children.
 inline constexpr const char* boundsTouchesProperty = "boundsTouches";
 
-// The topmost item below a root, or the root itself, that shows and is enabled at a point of the
-// window's content; nullptr if there is none. Main thread.
+// The topmost item, the root or one below it, that is visible and enabled at a point of the
+// window's content; null if there is none. Main thread.
 QQuickItem* hitTest(QQuickItem* root, const QPointF& scenePoint);
 
 }  // namespace tarnwick

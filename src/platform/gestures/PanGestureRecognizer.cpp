@@ -59,7 +59,7 @@ QPointF PanGestureRecognizer::velocityInScene() const {
     const Touch& now = trail_.back();
     Touch from = trail_.front();
     if (const qint64 early = now.milliseconds - velocityTime - from.milliseconds; early > 0) {
-        // Events come irregularly. Between two of them the touch is taken to have moved evenly.
+        // Events come irregularly; between two of them the touch is assumed to move evenly.
         const Touch& next = trail_[1];
         const double part =
             static_cast<double>(early) / static_cast<double>(next.milliseconds - from.milliseconds);

@@ -6,19 +6,19 @@
 
 namespace tarnwick {
 
-// A drag in any direction. It begins once the touch has left the place where it went down by more
-// than the drag threshold. Main thread.
+// A drag in any direction. It begins once the touch has moved further than the drag threshold. Main
+// thread.
 class PanGestureRecognizer : public GestureRecognizer {
     Q_OBJECT
 
 public:
     using GestureRecognizer::GestureRecognizer;
 
-    // Points of the view, or of the window's content if there is no view. Until it begins, from
-    // where the touch went down; from then on from a place that is the threshold nearer, so that
-    // what is dragged does not jump.
+    // Points of the view, or of the window's content if the view is null. Until the pan begins,
+    // measured from where the touch went down; from then on from a point that is nearer by the
+    // threshold, so that what is dragged does not jump.
     QPointF translation(const QQuickItem* view) const;
-    // Points a second over the last tenth of a second of the events' own time; 0 after a rest of
+    // Points per second over the last tenth of a second of the events' own time; 0 after a rest of
     // that length.
     QPointF velocity(const QQuickItem* view) const;
 
@@ -32,7 +32,7 @@ private:
     QPointF velocityInScene() const;
 
     QPointF origin_;
-    std::deque<Touch> trail_;  // reaches back to the start of the time that the velocity is of
+    std::deque<Touch> trail_;  // of the time over which the velocity is measured
 };
 
 }  // namespace tarnwick

@@ -4,8 +4,8 @@
 
 namespace tarnwick {
 
-// A press that did not become a drag, recognised when it is released. The items under it do not get
-// a press then. Main thread.
+// A press that did not become a drag, recognised on release. The items below it are not pressed
+// then. Main thread.
 class TapGestureRecognizer : public GestureRecognizer {
     Q_OBJECT
 

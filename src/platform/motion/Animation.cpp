@@ -11,7 +11,7 @@ namespace tarnwick {
 
 namespace {
 
-// A spring's rest: what is left of the way at the end of its duration.
+// The part of the distance that is left when a spring counts as resting.
 constexpr double rest = 0.001;
 
 double valueOf(const QQuickItem& item, Change::Property property) {
@@ -56,12 +56,12 @@ double easedPart(Easing easing, double timePart) {
 
 // The frequency at which a critically damped spring comes to rest in the duration.
 double restFrequency(double duration) {
-    constexpr double restingPhase = 9.233;  // (1 + p) e^-p is `rest` there
+    constexpr double restingPhase = 9.233;  // where (1 + p) e^-p equals `rest`
     return restingPhase / duration;
 }
 
-// What is left of the way after the seconds, for a spring that starts at 1 with the velocity
-// towards 0.
+// The part of the distance that is left after the seconds, for a spring that starts at 1 with the
+// velocity towards 0.
 double springRemainder(const Spring& spring, double seconds, double duration) {
     const double ratio = std::clamp(spring.dampingRatio, 0.01, 1.0);
     const double frequency = restFrequency(duration);
@@ -73,9 +73,9 @@ double springRemainder(const Spring& spring, double seconds, double duration) {
                     (frequency - spring.initialVelocity) / swing * std::sin(swing * seconds));
 }
 
-// The changes of one call; told of once the last of them is over.
+// The changes of one call; completed when the last of them is over.
 struct Group {
-    explicit Group(Completion toTell) : completion(std::move(toTell)) {}
+    explicit Group(Completion whenDone) : completion(std::move(whenDone)) {}
     Group(const Group&) = delete;
     Group& operator=(const Group&) = delete;
     ~Group() {
@@ -84,15 +84,14 @@ struct Group {
     }
 
     Completion completion;
-    bool finished = true;  // unless one of them was overtaken, or its item has gone
+    bool finished = true;  // false if one was taken over or its item deleted
 };
 
 QString nameOf(Change::Property property) {
     return QStringLiteral("motion %1").arg(static_cast<int>(property));
 }
 
-// Moves one number of one item. It is the item's child, under the property's name, and goes with
-// it.
+// Animates one property of one item: the item's child, named after the property.
 class Motion : public QVariantAnimation {
 public:
     Motion(const Motion&) = delete;
@@ -117,7 +116,7 @@ public:
             group_->finished = false;
     }
 
-    // The number stays where it is. Who drops the group last tells that the changes are over.
+    // The value stays where it is. The group is completed when its last reference is dropped.
     std::shared_ptr<Group> leave() {
         stop();
         setObjectName({});
@@ -139,7 +138,7 @@ private:
     std::shared_ptr<Group> group_;
 };
 
-// Nothing if there was none.
+// Null if none was running.
 std::shared_ptr<Group> endMotion(const Change& change) {
     auto* running = change.item->findChild<QVariantAnimation*>(nameOf(change.property),
                                                                Qt::FindDirectChildrenOnly);
@@ -164,7 +163,7 @@ double courseProgress(const Course& course, double timePart, double duration) {
 void animate(double duration, const Course& course, const std::vector<Change>& changes,
              Completion completion) {
     const auto group = std::make_shared<Group>(std::move(completion));
-    // Told when everything here is under way: they may start the next animation.
+    // Completed last, as completions may start the next animation.
     std::vector<std::shared_ptr<Group>> overtaken;
     for (const Change& change : changes) {
         overtaken.push_back(endMotion(change));

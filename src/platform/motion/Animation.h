@@ -9,8 +9,8 @@ namespace tarnwick {
 
 enum class Animated { No, Yes };
 
-// How a change runs its course. Field terms: an easing curve, or a spring with a damping ratio (1.0
-// does not swing) and an initial velocity in distances per second.
+// How a value moves over time: along an easing curve, or like a spring with a damping ratio (1.0
+// does not oscillate) and an initial velocity in distances per second.
 enum class Easing { InOut, Out };
 struct Spring {
     double dampingRatio = 1.0;
@@ -18,11 +18,11 @@ struct Spring {
 };
 using Course = std::variant<Easing, Spring>;
 
-// The part of the way, 0 at the start and 1 at the end, that is done after a part of the time. A
-// spring is at rest at the end of its duration, in seconds.
+// The progress, from 0 to 1, after a part of the duration, which is in seconds. A spring is at rest
+// at the end.
 double courseProgress(const Course& course, double timePart, double duration);
 
-// One number of an item and where it goes.
+// A property of an item and its target value.
 struct Change {
     enum class Property { Opacity, Scale, X, Y, Width, Height };
     QQuickItem* item;
@@ -30,18 +30,17 @@ struct Change {
     double target;
 };
 
-// Told once when it is over: finished is false if another animation took one of its properties
-// over, or an item vanished.
+// Called once at the end. `finished` is false if another animation took over one of the properties,
+// or an item was deleted.
 using Completion = std::function<void(bool finished)>;
 
-// Animates the changes together over the duration, in seconds; without a change to make it is over
-// at once. A running animation of the same
-// number of the same item gives it up where it stands, so that nothing jumps. Items may vanish
-// meanwhile. Main thread.
+// Animates the changes together over the duration, in seconds; completes at once if there is
+// nothing to change. A running animation of the same property of the same item stops where it is,
+// so that nothing jumps. Items may be deleted meanwhile. Main thread.
 void animate(double duration, const Course& course, const std::vector<Change>& changes,
              Completion completion = {});
 
-// Sets the numbers at once; running animations give them up.
+// Sets the values at once and stops running animations of them.
 void applyAtOnce(const std::vector<Change>& changes);
 
 }  // namespace tarnwick

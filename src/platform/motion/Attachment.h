@@ -4,8 +4,8 @@
 
 namespace tarnwick {
 
-// What goes with an object without being part of its class: a direct child, at most one of each
-// class.
+// Data that goes with an object without being part of its class: a direct child, at most one of
+// each class.
 
 // Null if the owner has none.
 template <class Attachment>
@@ -16,7 +16,7 @@ Attachment* findAttachment(const QObject* owner) {
     return nullptr;
 }
 
-// Made on the first call.
+// Created on the first call.
 template <class Attachment, class Owner>
 Attachment& attachmentOf(Owner* owner) {
     auto* known = findAttachment<Attachment>(owner);

@@ -6,7 +6,7 @@ namespace tarnwick {
 
 namespace {
 
-// Follows its superview's size for as long as it is there.
+// Keeps a view as large as its superview.
 class Filling : public QObject {
 public:
     Filling(QQuickItem* superview, QQuickItem* view) : QObject(view) {

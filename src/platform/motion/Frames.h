@@ -4,9 +4,9 @@
 
 namespace tarnwick {
 
-// Puts the view into the other one, on top, with its whole bounds, and keeps it so.
+// Adds the view on top of the superview's other children and keeps it as large as the superview.
 void addFillingSubview(QQuickItem* superview, QQuickItem* view);
-// Keeps the content at the view's left edge and as wide as it.
+// Keeps the content at the view's left edge and as wide as the view.
 void pinToWidth(QQuickItem* content, const QQuickItem* view);
 void removeFromSuperview(QQuickItem* view);
 

@@ -6,10 +6,10 @@
 
 namespace tarnwick {
 
-// Waiting and measuring on the clock of the animations, so that a test which advances that clock
-// advances these as well. Main thread.
+// Timers on the animation clock, so that a test that advances that clock advances them too. Main
+// thread.
 
-// A one-shot timer. Starting it again forgets the task that waited before.
+// A one-shot timer. Starting it again drops the pending task.
 class Pause : public QObject {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ private:
     std::function<void()> task_;
 };
 
-// Tells the seconds since it was started; those in which nothing could be animated count too.
+// Measures the seconds since its start, including times in which no frame could be drawn.
 class Stopwatch : public QObject {
     Q_OBJECT
 

@@ -19,8 +19,8 @@ constexpr int mainThreadNiceness = -10;
 }  // namespace
 
 PlatformQueues::PlatformQueues() : usualNiceness_(getpriority(PRIO_PROCESS, 0)) {
-    // The interface goes first where commands keep every core busy. Without the right to it, the
-    // system decides.
+    // The interface stays responsive while commands keep every core busy. Without the privilege to
+    // raise it, the priority stays as it is.
     setpriority(PRIO_PROCESS, 0, mainThreadNiceness);
 }
 
@@ -39,7 +39,7 @@ void PlatformQueues::startThread(Task task) {
     const std::lock_guard lock(guard_);
     ++running_;
     std::thread([this, task = std::move(task)]() mutable {
-        // A thread and the commands that it runs have no part in the main thread's privilege.
+        // Threads and the commands that they run keep the usual priority.
         setpriority(PRIO_PROCESS, 0, usualNiceness_);
         std::exchange(task, nullptr)();
         const std::lock_guard done(guard_);

@@ -8,10 +8,10 @@
 
 namespace tarnwick {
 
-// The queues of a running application, whose main thread goes before the others. Made and destroyed
-// on the main thread; its operations may be called on any thread. The destructor waits for the
-// threads that it started: what they refer to must outlive it, and their waiting hand-overs are
-// still served.
+// The queues of a running application. Its main thread gets a higher priority than the threads that
+// are started here. Created and destroyed on the main thread; callable on any thread. The
+// destructor waits for the started threads and still serves their hand-overs; what they refer to
+// must outlive it.
 class PlatformQueues : public QObject, public TaskQueues {
     Q_OBJECT
 
@@ -20,9 +20,9 @@ public:
     ~PlatformQueues() override;
 
     void runInBackground(Task task) override;
-    // On the main thread itself the task runs at once: waiting for oneself would never end.
+    // Runs the task at once on the main thread, where waiting would deadlock.
     void performOnMainThreadAndWait(Task task) override;
-    // A thread of its own as well: there are never more than a few.
+    // Starts a thread too, as there are never more than a few tasks.
     void dispatchToGlobalQueue(Task task) override;
     void dispatchToMainQueue(Task task) override;
 
@@ -30,9 +30,9 @@ private:
     void startThread(Task task);
 
     const int usualNiceness_;
-    std::mutex guard_;  // of what follows
+    std::mutex guard_;  // guards the members below
     std::condition_variable ended_;
-    int running_ = 0;  // threads
+    int running_ = 0;  // number of threads
 };
 
 }  // namespace tarnwick

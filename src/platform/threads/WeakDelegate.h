@@ -5,8 +5,8 @@
 
 namespace tarnwick {
 
-// Another object that is told of something, not kept alive: whoever implements the Delegate class
-// is a QObject too, and is no longer told once it is gone. Main thread.
+// A delegate that is notified but not kept alive. Whoever implements the Delegate class is a
+// QObject too, and is no longer notified once it is deleted. Main thread.
 template <class Delegate>
 class WeakDelegate {
 public:
@@ -15,7 +15,7 @@ public:
         object_ = dynamic_cast<QObject*>(delegate);
     }
 
-    // Nothing if there is none, or none any more.
+    // Null if none is set or it has been deleted.
     Delegate* get() const { return object_ ? delegate_ : nullptr; }
 
 private:

@@ -12,8 +12,8 @@ namespace tarnwick {
 
 namespace {
 
-// Qt describes an item through QML's attached properties only, and has no public C++ for them. An
-// expression sets them from an object that holds the words.
+// Qt has no public C++ API to describe an item, only QML's attached properties. An expression sets
+// them from an object that holds the texts.
 class Describer : public QObject {
 public:
     explicit Describer(QQmlEngine* engine) : QObject(engine) {
@@ -22,26 +22,26 @@ public:
             "import QtQuick\n"
             "QtObject { property int role; property string name; property string description }",
             QUrl());
-        words_ = component.create();
-        if (words_ == nullptr)
+        texts_ = component.create();
+        if (texts_ == nullptr)
             qFatal("The QML module QtQuick is not installed correctly: %s",
                    qPrintable(component.errorString()));
-        words_->setParent(this);
+        texts_->setParent(this);
     }
 
     void describe(QQuickItem* item, QAccessible::Role role, const QString& name,
                   const QString& description) {
-        words_->setProperty("role", static_cast<int>(role));
-        words_->setProperty("name", name);
-        words_->setProperty("description", description);
-        QQmlExpression expression(qmlContext(words_), item,
+        texts_->setProperty("role", static_cast<int>(role));
+        texts_->setProperty("name", name);
+        texts_->setProperty("description", description);
+        QQmlExpression expression(qmlContext(texts_), item,
                                   "Accessible.role = role; Accessible.name = name; "
                                   "Accessible.description = description");
         expression.evaluate();
     }
 
 private:
-    QObject* words_;
+    QObject* texts_;
 };
 
 }  // namespace

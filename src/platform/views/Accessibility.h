@@ -6,9 +6,8 @@
 
 namespace tarnwick {
 
-// Tells assistive technology what an item is and what it says. An item that was never described is
-// not offered, nor is one that is not visible. Main thread; may be called again when the name
-// changes.
+// Describes an item to assistive technology. An item that was never described, or is not visible,
+// is not exposed. May be called again when the name changes. Main thread.
 void describe(QQuickItem* item, QAccessible::Role role, const QString& name,
               const QString& description = {});
 

@@ -12,11 +12,11 @@ constexpr double extent = 37.0;        // points, each way
 constexpr double spokeWidth = 3.4;     // points
 constexpr double innerRadius = 8.5;    // points
 constexpr double outerRadius = 16.5;   // points
-constexpr double dimmestAlpha = 0.22;  // of the spoke that was bright longest ago
+constexpr double dimmestAlpha = 0.22;  // of the spoke that was brightest longest ago
 constexpr int turnDuration = 1000;     // milliseconds
 
-// How bright a spoke is while another is the brightest: they fade in the order in which they were
-// lit.
+// The brightness of a spoke while another one is the brightest: spokes fade in the order in which
+// they were lit.
 double alphaOf(int spoke, int brightest) {
     const int age = (brightest - spoke + spokes) % spokes;
     return std::max(dimmestAlpha, 1.0 - age * (1.0 - dimmestAlpha) * 2.0 / spokes);
@@ -31,7 +31,7 @@ ActivityIndicatorView::ActivityIndicatorView(QQuickItem* parent) : PaintedView(p
     turn_.setEndValue(spokes);
     turn_.setDuration(turnDuration);
     turn_.setLoopCount(-1);
-    // Twelve pictures a second, however many frames there are.
+    // Redraws twelve times per second, whatever the frame rate is.
     connect(&turn_, &QVariantAnimation::valueChanged, this, [this] { update(); });
 }
 

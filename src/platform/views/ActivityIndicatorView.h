@@ -7,7 +7,7 @@
 
 namespace tarnwick {
 
-// A phone's large activity indicator: twelve spokes, of which the brightest goes round once a
+// A phone's large activity indicator: twelve spokes, of which the brightest one goes round once per
 // second. Main thread.
 class ActivityIndicatorView : public PaintedView {
     Q_OBJECT

@@ -1,12 +1,12 @@
 import QtQuick
 import QtQuick.Templates as T
 
-// A button without a look of its own: it is pressed by touch, mouse, keys and assistive technology,
-// and a ring shows where the keyboard is.
+// A button without a look of its own. It can be pressed by touch, mouse, keyboard and assistive
+// technology; a ring shows the keyboard focus.
 T.AbstractButton {
     id: button
 
-    // What pressing it does: one of its controller's actions, or a segue that leaves its scene.
+    // What a press does: an action of the scene's controller, or a segue that leaves the scene.
     property string actionName
     property string segueName
     property color focusRingColor: "white"
@@ -14,14 +14,14 @@ T.AbstractButton {
 
     focusPolicy: Qt.StrongFocus
 
-    // A key that is held down since before the button had the keyboard does not press it.
+    // A key that was already held when the button got the focus does not press it.
     Keys.onSpacePressed: event => event.accepted = event.isAutoRepeat
     Keys.onReturnPressed: event => { if (!event.isAutoRepeat) button.clicked() }
     Keys.onEnterPressed: event => { if (!event.isAutoRepeat) button.clicked() }
 
     Accessible.role: Accessible.Button
     Accessible.name: text
-    // Whoever asks over the bus has its answer before the work begins.
+    // The call on the accessibility bus returns before the work begins.
     Accessible.onPressAction: if (enabled) Qt.callLater(button.clicked)
 
     Rectangle {

@@ -4,7 +4,7 @@
 
 namespace tarnwick {
 
-// Takes every touch, mouse and wheel event that reaches it, so that nothing below it gets one. Main
+// Takes every touch, mouse and wheel event that reaches it, so that nothing below it does. Main
 // thread.
 class InputBlocker : public QQuickItem {
     Q_OBJECT

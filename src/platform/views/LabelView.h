@@ -8,7 +8,7 @@
 
 namespace tarnwick {
 
-// Centred text, painted at the screen's own resolution. Main thread.
+// Centred text, painted at the screen's resolution. It is visible unless it is empty. Main thread.
 class LabelView : public PaintedView {
     Q_OBJECT
 
@@ -16,16 +16,16 @@ public:
     explicit LabelView(QQuickItem* parent);
 
     enum class Lines { One, Wrapped };
-    // One line is cut with dots where it does not fit.
+    // A single line is elided where it does not fit.
     void setLines(Lines lines) { change(lines_, lines); }
     const QString& text() const { return text_; }
     void setText(const QString& text);
     void setFont(const QFont& font) { change(font_, font); }
     void setColor(const QColor& color) { change(color_, color); }
 
-    // Whole points that the text takes on one line; nothing if it is empty.
+    // The size on one line, in whole points; zero if the text is empty.
     QSizeF sizeOnOneLine() const;
-    // Whole points that the text takes when it is wrapped to the width, cut at the height.
+    // The size when wrapped to the width and cut at the height, in whole points.
     QSizeF sizeWithin(const QSizeF& limit) const;
 
     void paint(QPainter* painter) override;

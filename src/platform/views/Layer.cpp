@@ -8,7 +8,7 @@ namespace tarnwick {
 
 namespace {
 
-// Below the view's own content, and the shadow below that.
+// Below the view's own content, with the shadow lowest.
 constexpr double rectangleDepth = -1;
 constexpr double shadowDepth = -2;
 

@@ -13,7 +13,7 @@ class Layer : public QObject {
     Q_OBJECT
 
 public:
-    // The view's layer; made, with nothing to see, on the first call.
+    // The view's layer; created, with nothing to see, on the first call.
     static Layer& of(QQuickItem* view);
 
     explicit Layer(QQuickItem* view);
@@ -22,16 +22,16 @@ public:
     void setBorderColor(const QColor& color);
     void setCornerRadius(double radius);
     void setBackgroundColor(const QColor& color);
-    // Whether what the view holds is cut at its bounds.
+    // Whether the view clips its content.
     void setMasksToBounds(bool masks);
 
-    // The shadow of the layer's rectangle: drawn around it, not under it.
+    // Drawn around the layer's rectangle, not below it.
     void setShadow(const Shadow& shadow);
 
 private:
     QQuickItem* view_;
     QQuickItem* rectangle_;
-    ShadowView* shadow_ = nullptr;  // made when there is one to see
+    ShadowView* shadow_ = nullptr;  // null until one is set
 };
 
 }  // namespace tarnwick

@@ -1,6 +1,6 @@
 import QtQuick
 
-// What a layer draws: nothing until it is told.
+// The fill and border of a layer, at first invisible.
 Rectangle {
     property alias borderWidth: rectangle.border.width
     property alias borderColor: rectangle.border.color

@@ -1,8 +1,8 @@
 import QtQuick
 import Tarnwick
 
-// A push button: filled with the application's tint. Other looks replace the caption's colour and
-// the background. It looks the same while it is disabled, as every button under an alert is.
+// A push button, filled with the application's tint. It looks the same when disabled, as every
+// button below an alert is.
 BareButton {
     id: button
 

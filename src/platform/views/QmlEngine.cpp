@@ -7,7 +7,7 @@
 
 #include "platform/motion/Attachment.h"
 
-// What a library holds is linked in only if something asks for it.
+// The linker drops a static library's resources unless something refers to them.
 extern void qml_register_types_Tarnwick();
 static void initializeResources() {
     qml_register_types_Tarnwick();

@@ -8,12 +8,12 @@ class QQmlEngine;
 
 namespace tarnwick {
 
-// The one engine of the application, which knows the module Tarnwick. It belongs to the application
+// The application's only QML engine, which knows the module Tarnwick. Owned by the application
 // object. Main thread.
 QQmlEngine& applicationQmlEngine();
 
-// Makes an item of the module's type of that name as a child of the parent. A type that cannot be
-// made ends the program: the module is part of it, so what it imports is not installed.
+// Creates an item of the named type of the module as a child of the parent. The module is part of
+// the program, so a failure means that an import is not installed; it ends the program.
 QQuickItem* createQmlItem(const QString& typeName, QQuickItem* parent, QVariantMap properties = {});
 
 }  // namespace tarnwick

@@ -7,7 +7,7 @@
 
 namespace tarnwick {
 
-// A filled box with round corners that has no seams while it is scaled, unlike Qt's rectangle
+// A filled box with rounded corners. Unlike Qt's Rectangle it shows no seams when it is scaled
 // without a GPU. The radius is in points.
 class RoundedBox : public QQuickPaintedItem {
     Q_OBJECT

@@ -1,9 +1,9 @@
 import QtQuick
 
-// Shows which part of an area that scrolls is seen, at the area's right edge.
+// Shows at the right edge of a scrolling area which part of it is visible.
 Rectangle {
     required property Flickable area
-    readonly property int inset: 8  // clear of round corners
+    readonly property int inset: 8  // clears rounded corners
     readonly property real track: area.height - 2 * inset
 
     visible: area.contentHeight > area.height

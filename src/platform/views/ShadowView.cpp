@@ -12,18 +12,18 @@ namespace {
 
 constexpr int patchesInARow = 3;
 
-// The part of a blurred edge's strength at a distance within it, in standard deviations.
+// The strength of a blurred edge at a distance inside it, in standard deviations.
 double edgeStrength(double deviations) {
     return 0.5 * (1.0 + std::erf(deviations / std::sqrt(2.0)));
 }
 
-// The strength of the shadow of the middle half of a length, at a place of it.
+// The shadow's strength at a position along a length whose middle half casts it.
 double strengthAt(double place, double length, double radius) {
     const double fromNearerEnd = std::min(place, length - place);
     return edgeStrength((fromNearerEnd - length / 4) / radius);
 }
 
-// A row of patches: where the corners' patches begin and end, and the stretched one between them.
+// The edges of a row of three patches: corner, stretched middle, corner.
 struct Cuts {
     std::array<double, patchesInARow + 1> at;
 
@@ -54,13 +54,13 @@ public:
         const Cuts columns = Cuts::of(outer.x(), outer.width(), 2 * extent_);
         const Cuts rows = Cuts::of(outer.y(), outer.height(), 2 * extent_);
         const double side = texture_->textureSize().width();
-        // One pixel is stretched between the corners.
+        // A single pixel is stretched between the corners.
         const Cuts source = {{0, side / 2, side / 2 + 1, side}};
         std::size_t next = 0;
         for (std::size_t row = 0; row < patchesInARow; ++row) {
             for (std::size_t column = 0; column < patchesInARow; ++column) {
                 if (row == 1 && column == 1)
-                    continue;  // under the rectangle
+                    continue;  // below the rectangle
                 patches_[next]->setRect(columns.patch(rows, column, row));
                 patches_[next++]->setSourceRect(source.patch(source, column, row));
             }

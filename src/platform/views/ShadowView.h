@@ -12,21 +12,21 @@ struct Shadow {
     QColor color = Qt::black;
     double opacity = 0.0;
     QSizeF offset = {0, 0};
-    double radius = 3.0;  // how far it is blurred: the standard deviation
+    double radius = 3.0;  // of the blur: its standard deviation
 
     bool operator==(const Shadow&) const = default;
 };
 
-// How far on either side of the rectangle's edges the shadow is between nothing and its whole
+// How far the shadow extends to either side of the rectangle's edges, from nothing to its full
 // strength.
 double shadowExtent(const Shadow& shadow);
 
-// The shadow of a rectangle of twice the extent each way, in the middle of a picture of four times
-// the extent: every larger rectangle's shadow is made of its patches.
+// The shadow of a square with sides of twice the extent, in the middle of an image of four times
+// the extent. Patches of it make the shadow of any larger rectangle.
 QImage shadowPicture(const Shadow& shadow, double devicePixelRatio);
 
-// Draws the shadow of its own bounds, around them. Made of eight patches, so that it costs little
-// whatever the size.
+// Draws a shadow around its own bounds from eight patches, so that the cost does not grow with the
+// size. Main thread.
 class ShadowView : public QQuickItem {
     Q_OBJECT
 

@@ -22,7 +22,7 @@ QPainterPath menu() {
     return path;
 }
 
-// The drawings that are known, by their names.
+// All drawings by name.
 class Symbols : public QObject {
 public:
     using QObject::QObject;

@@ -9,10 +9,10 @@
 
 namespace tarnwick {
 
-// Points, each way: the square that drawings of symbols are made for.
+// The side of the square, in points, that symbols are drawn in.
 inline constexpr double symbolExtent = 24.0;
 
-// Makes a line drawing known to all symbol views of the application. "menu" is known already. Main
+// Makes a line drawing available to all symbol views of the application. "menu" is built in. Main
 // thread.
 void addSymbol(const QString& name, const QPainterPath& drawing);
 

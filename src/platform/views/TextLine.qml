@@ -1,7 +1,7 @@
 import QtQuick
 import Tarnwick
 
-// A line of a form: what is asked for, and a field to write it in. Return leads on.
+// A row of a form: a label and a field to write in. Return goes on to the next row.
 FocusScope {
     id: line
 
@@ -28,7 +28,7 @@ FocusScope {
         Accessible.ignored: true
     }
 
-    // The whole line takes the finger.
+    // The whole row can be tapped.
     TextLineField {
         id: field
 
@@ -40,7 +40,7 @@ FocusScope {
         bottomPadding: 12
         focus: true
 
-        // Who comes here goes on writing.
+        // The cursor starts behind the text.
         Component.onCompleted: cursorPosition = length
 
         Keys.onReturnPressed: line.accepted()

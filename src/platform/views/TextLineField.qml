@@ -1,7 +1,7 @@
 import QtQuick
 import Tarnwick
 
-// A field of a form for plain text, which grows with what is written in it.
+// A plain-text field of a form, which grows with its text.
 TextEdit {
     textFormat: TextEdit.PlainText
     wrapMode: TextEdit.Wrap
@@ -11,7 +11,7 @@ TextEdit {
     selectByMouse: true
     activeFocusOnTab: true
 
-    // A form has no use for tabulators, and the keyboard must find its way out.
+    // Tab leaves the field, as a form needs no tab characters.
     Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
     Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
 
