@@ -18,6 +18,7 @@ function(tarnwick_test name)
 endfunction()
 
 tarnwick_test(core_test
+    core/command_environment_test.cpp
     core/system_file_manager_test.cpp
     core/text_lines_test.cpp)
 tarnwick_test(launcher_test launcher/clean_start_test.cpp)
@@ -47,6 +48,7 @@ set(ui_tests
     platform/alert_test.cpp
     mail/cloud_screen_test.cpp
     platform/gestures_test.cpp
+    platform/idle_timer_test.cpp
     platform/mail_composer_test.cpp
     platform/storyboard_test.cpp
     ui/endurance_test.cpp

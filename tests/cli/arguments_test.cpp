@@ -20,7 +20,6 @@ TEST(Arguments, OptionsStandAnywhere) {
 
 TEST(Arguments, FaultsNameTheNearestWord) {
     const std::pair<std::vector<std::string>, const char*> rows[] = {
-        {{"--dryrun"}, "there is no option \"--dryrun\"; did you mean \"--dry-run\" ?"},
         {{"--then", "rebot"}, "there is no answer \"rebot\"; did you mean \"reboot\" ?"},
         {{"--then=respirng"}, "there is no answer \"respirng\"; did you mean \"respring\" ?"},
     };

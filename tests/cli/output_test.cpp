@@ -2,10 +2,14 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <pty.h>
 #include <unistd.h>
+
+#include <algorithm>
 
 #include "cli/Json.h"
 #include "cli/ProgressLine.h"
+#include "support/TemporaryFolder.h"
 
 namespace tarnwick {
 namespace {
@@ -19,33 +23,43 @@ TEST(Json, WritesOneValidLineWhateverTheTextHolds) {
     EXPECT_EQ(jsonObject({{"name", "a\xFF-"}}), "{\"name\":\"a\uFFFD-\"}");
 }
 
-// A pseudo terminal stands for the person's: the line is drawn, cut to its width, and taken away.
+// A pseudo terminal stands for the person's: the line is drawn, drawn again each second, cut to its
+// width, and taken away.
 TEST(ProgressLine, DrawsOnATerminalOnly) {
     ::setenv("TERM", "xterm", 1);
-    const int master = ::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
-    ASSERT_EQ(::grantpt(master), 0);
-    ASSERT_EQ(::unlockpt(master), 0);
-    const int terminal = ::open(::ptsname(master), O_RDWR | O_NOCTTY | O_CLOEXEC);
+    int person = -1;
+    int terminal = -1;
+    ASSERT_EQ(::openpty(&person, &terminal, nullptr, nullptr, nullptr), 0);
+    std::string text;
+    const auto readMore = [&] {
+        char part[100];
+        const ssize_t count = ::read(person, part, sizeof part);
+        text.append(part, static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+        return count > 0;
+    };
     {
         ProgressLine line(terminal);
         line.start("Backup in progress...");
         line.setItem("notes", 7, 11);
+        while (!text.ends_with("0:01"))
+            ASSERT_TRUE(readMore());
         line.without([] {});
     }
     ::close(terminal);
-    std::string text;
-    char part[100];
-    for (ssize_t count = 0; (count = ::read(master, part, sizeof part)) > 0;)
-        text.append(part, static_cast<std::size_t>(count));
-    ::close(master);
+    while (readMore())
+        continue;
+    ::close(person);
     const std::string erase = "\r\033[K";
     EXPECT_EQ(text, erase + "Backup in progress... 0:00" + erase +
-                        "Backup in progress... notes (7/11) 0:00" + erase + erase);
+                        "Backup in progress... notes (7/11) 0:00" + erase +
+                        "Backup in progress... notes (7/11) 0:01" + erase + erase);
 
-    const int file = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
-    ProgressLine quiet(file);
-    quiet.start("nothing");
+    const testing::TemporaryFolder folder;
+    const int file =
+        ::open((folder.path() + "/file").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
+    ProgressLine(file).start("nothing");
     ::close(file);
+    EXPECT_EQ(folder.content("file"), "");
 }
 
 }  // namespace

@@ -32,13 +32,14 @@ private:
         // Without an address the library would start a bus of its own.
         if (qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS"))
             return;
-        if (window_->isActive() && !cookie_)
+        if (window_->isActive() && !isAsked_)
             inhibit();
         else if (!window_->isActive() && cookie_)
             release();
     }
 
     void inhibit() {
+        isAsked_ = true;
         auto message = call("Inhibit");
         message << QGuiApplication::applicationDisplayName() << QStringLiteral("In front");
         auto* answer =
@@ -46,7 +47,8 @@ private:
         connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
             answer->deleteLater();
             const QDBusPendingReply<uint> cookie = *answer;
-            if (!cookie.isValid())
+            isAsked_ = cookie.isValid();
+            if (!isAsked_)
                 return;  // a desktop without the service; asked again when the window comes back
             cookie_ = cookie.value();
             if (!window_->isActive())
@@ -55,12 +57,14 @@ private:
     }
 
     void release() {
+        isAsked_ = false;
         auto message = call("UnInhibit");
         message << *std::exchange(cookie_, std::nullopt);
         QDBusConnection::sessionBus().asyncCall(message);
     }
 
     QWindow* window_;
+    bool isAsked_ = false;  // also while there is no answer yet
     std::optional<uint> cookie_;
 };
 

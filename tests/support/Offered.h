@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QAccessible>
+#include <QStringList>
+
+namespace tarnwick::testing {
+
+// The names of all that assistive technology finds below, in order.
+inline QStringList offered(QAccessibleInterface* from) {
+    QStringList names;
+    for (int place = 0; place < from->childCount(); ++place) {
+        QAccessibleInterface* child = from->child(place);
+        if (!child->state().invisible)
+            names << child->text(QAccessible::Name) << offered(child);
+    }
+    names.removeAll({});
+    return names;
+}
+
+}  // namespace tarnwick::testing
