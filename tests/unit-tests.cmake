@@ -37,11 +37,19 @@ target_link_libraries(mail_test PRIVATE PkgConfig::GMIME)
 tarnwick_test(cli_test
     cli/arguments_test.cpp
     cli/command_line_test.cpp
-    cli/output_test.cpp
+    cli/json_test.cpp
     cli/supervisor_test.cpp)
 
-# Tests of items and windows: with a loop and a clock of their own, without a display.
-set(ui_tests
+# A program of tests of items and windows: with a loop and a clock of their own, without a display.
+add_library(window_support STATIC support/Finger.cpp support/SteppedClock.cpp support/qt_main.cpp)
+target_link_libraries(window_support PUBLIC app test_support GTest::gtest Qt6::Test)
+function(tarnwick_window_test name)
+    add_executable(${name} ${ARGN})
+    target_link_libraries(${name} PRIVATE window_support)
+    set_property(GLOBAL APPEND PROPERTY tarnwick_test_files ${ARGN})
+endfunction()
+
+tarnwick_window_test(ui_test
     app/buttons_test.cpp
     app/quick_actions_test.cpp
     app/screens_test.cpp
@@ -55,13 +63,18 @@ set(ui_tests
     ui/progress_hud_test.cpp
     ui/reveal_geometry_test.cpp
     ui/reveal_test.cpp)
-add_executable(ui_test support/Finger.cpp support/SteppedClock.cpp support/qt_main.cpp ${ui_tests})
-target_include_directories(ui_test PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
-target_link_libraries(ui_test PRIVATE app test_support GTest::gtest Qt6::Test)
 target_precompile_headers(ui_test PRIVATE <gtest/gtest.h> <QQuickItem> <QQmlComponent> <QTest>)
-gtest_discover_tests(ui_test DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 60
-    ENVIRONMENT TSAN_OPTIONS=suppressions=${CMAKE_CURRENT_SOURCE_DIR}/tsan-suppressions.txt)
-set_property(GLOBAL APPEND PROPERTY tarnwick_test_files ${ui_tests})
+gtest_discover_tests(ui_test DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 60)
+
+# What crosses threads, also for the thread sanitizer.
+tarnwick_window_test(thread_test
+    cli/progress_line_test.cpp
+    threads/many_threads_test.cpp
+    threads/screens_with_threads_test.cpp)
+if(TARNWICK_SANITIZE STREQUAL thread)
+    target_sources(thread_test PRIVATE threads/ThreadSanitizer.cpp)
+endif()
+gtest_discover_tests(thread_test DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 60 LABELS threads)
 
 # A test file that no target builds would pass for ever.
 get_property(listed GLOBAL PROPERTY tarnwick_test_files)

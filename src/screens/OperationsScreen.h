@@ -11,7 +11,7 @@ public:
     explicit OperationsScreen(const ScreenServices& services)
         : TaskScreen(services), operations_(operationServices()) {
         for (const auto& [name, action] : operations_.actions())
-            addAction(QString::fromStdString(name), [action](QQuickItem*) { action(); });
+            addAction(QString::fromStdString(name), [action = action](QQuickItem*) { action(); });
     }
 
     void alertClickedButtonAtIndex(const Alert& alert, int index) override {

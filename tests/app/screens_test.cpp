@@ -17,21 +17,6 @@ namespace {
 
 class ScreensTest : public ProgramWindow {};
 
-// With the threads of the program.
-class ThreadedScreensTest : public ProgramWindow {
-protected:
-    ThreadedScreensTest() : ProgramWindow(&threads) {}
-
-    // The text of the alert that comes, which is then answered.
-    std::string awaitAlert(int index) {
-        while (window.alerts().numberShown() == 0)
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-        return answerAlert(index);
-    }
-
-    PlatformQueues threads;
-};
-
 TEST_F(ScreensTest, EveryScreenLoadsWithoutAWarningAtEverySize) {
     const std::pair<const char*, const char*> rows[] = {{"backup", "Backup"},
                                                         {"restore", "Restore"},
@@ -65,37 +50,6 @@ TEST_F(ScreensTest, TheMenuHasItsRowsAndKeepsItsListToItself) {
 
 TEST_F(ScreensTest, LoadingBackupMakesTheSafeguardFoldersBeforeAnyButton) {
     EXPECT_EQ(diary.changes(), changesIn(literalEvents().at("folders")));
-}
-
-TEST_F(ThreadedScreensTest, ATaskCoversItsScreenAndTellsItsResult) {
-    diary.entries.clear();
-    press("accountsButton");
-    EXPECT_NE(ProgressHUD::HUDForView(screen().view()), nullptr);
-    const Entries events = literalEvents().at("save accounts, nothing zipped");
-    EXPECT_EQ("alert: " + awaitAlert(0), events.back());
-    EXPECT_EQ(ProgressHUD::HUDForView(screen().view()), nullptr);
-    EXPECT_EQ(diary.changes(), changesIn(events));
-}
-
-TEST_F(ThreadedScreensTest, AnAnswerFindsItsScreenWhenAnotherOneIsInFront) {
-    choose("restore");
-    folder.put(library + "Accounts.zip", "");
-    press("accountsButton");
-    const std::weak_ptr<ViewController> restore = screen().weak_from_this();
-    choose("help");
-    EXPECT_FALSE(restore.expired());
-    EXPECT_TRUE(awaitAlert(1).starts_with("Accounts Restoration"));
-    EXPECT_EQ(diary.entries.back(), "run: /sbin/reboot");
-    finishDeletions();
-    EXPECT_TRUE(restore.expired());
-}
-
-TEST_F(ThreadedScreensTest, OptionsFillsItsFigures) {
-    choose("options");
-    while (element("freeUserMemory")->property("text").toString() == "\u2026")
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-    EXPECT_EQ(element("freeUserMemory")->property("text").toString(), "12.50 GB");
-    EXPECT_EQ(element("totalUserMemory")->property("text").toString(), "64.00 GB");
 }
 
 TEST_F(ScreensTest, TabReachesEveryButtonAndBringsItIntoView) {

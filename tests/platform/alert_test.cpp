@@ -102,30 +102,6 @@ protected:
 const Alert question = {
     .title = "Restart?", .message = "Now.", .otherButtonTitles = {"One", "Two"}, .tag = 7};
 
-TEST_F(AlertTest, ShownByManyThreadsAllAppearInEachThreadsOrder) {
-    window.hide();                 // no frames, which are drawn on threads of Qt's own
-    constexpr int alertCount = 5;  // of each thread
-    std::vector<std::thread> threads;
-    for (int number = 0; number < 8; ++number)
-        threads.emplace_back([this, number] {
-            for (int turn = 0; turn < alertCount; ++turn)
-                presenter->show({.tag = number * alertCount + turn}, listener);
-        });
-    for (std::thread& thread : threads)
-        thread.join();
-    EXPECT_EQ(presenter->numberShown(), 0);
-    presenter->show({.title = "last"});
-    EXPECT_EQ(presenter->top()->alert().title, "last");
-    emit presenter->top()->buttonPressed(0);
-    std::vector<int> next(threads.size(), alertCount);
-    while (AlertView* top = presenter->top()) {
-        const int tag = top->alert().tag;
-        EXPECT_EQ(tag % alertCount, --next[static_cast<std::size_t>(tag / alertCount)]);
-        emit top->buttonPressed(0);
-    }
-    EXPECT_EQ(next, std::vector<int>(threads.size(), 0));
-}
-
 TEST_F(AlertTest, EveryWayOfPressingTellsTheIndexAndThenTheEnd) {
     const std::unique_ptr<QPointingDevice> finger(QTest::createTouchDevice());
     const auto touch = [this, &finger](QQuickItem* item) {

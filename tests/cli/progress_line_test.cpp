@@ -1,5 +1,3 @@
-#include "cli/Output.h"
-
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <pty.h>
@@ -7,21 +5,11 @@
 
 #include <algorithm>
 
-#include "cli/Json.h"
 #include "cli/ProgressLine.h"
 #include "support/TemporaryFolder.h"
 
 namespace tarnwick {
 namespace {
-
-TEST(Json, WritesOneValidLineWhateverTheTextHolds) {
-    EXPECT_EQ(jsonObject({}), "{}");
-    EXPECT_EQ(jsonObject({{"a", "b"}, {"n", std::int64_t{-3}}}), R"({"a":"b","n":-3})");
-    EXPECT_EQ(jsonObject({{"text", "\"\\\n\t\x01\x7F"}}),
-              "{\"text\":\"\\\"\\\\\\n\\t\\u0001\x7F\"}");
-    EXPECT_EQ(jsonObject({{"name", "\u00E9"}}), "{\"name\":\"\u00E9\"}");
-    EXPECT_EQ(jsonObject({{"name", "a\xFF-"}}), "{\"name\":\"a\uFFFD-\"}");
-}
 
 // A pseudo terminal stands for the person's: the line is drawn, drawn again each second, cut to its
 // width, and taken away.
