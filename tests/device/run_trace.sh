@@ -5,6 +5,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/run_lib.sh"
 
 scenes() {
     sed -n 's/^\[\(.*\)\]$/\1/p' "$table" | grep -v ',' | grep -vx questions
+    sed -n 's/^\[save \(.*\)\]$/size \1/p' "$table" | grep -v ',\|packages'
     printf '%s\n' "save all" "restore all"
 }
 
@@ -12,11 +13,20 @@ lines_of() {
     sed -n "/^\[$1\]\$/,/^\$/p" "$table" | grep -E '^(run|remove|create folder): ' || true
 }
 
+# A size is taken as an item is saved, in the folder for temporary files.
+lines_of_size() {
+    lines_of "save $1" | sed "s| /\?${library#/}| /var/tmp|g" | tee "$workspace/lines"
+    sed -n 's|^run: zip -r \([^ ]*\) .*|remove: \1|p' "$workspace/lines"
+}
+
 # What the scene starts and changes according to the table. "all" is every item, with the one line that differs.
 expected() {
     local verb=${1% *} item own
-    [[ $1 == *' all' ]] || { lines_of "$1"; return; }
-    own=$(lines_of "$verb, all in one")
+    case $1 in
+        *\ all) own=$(lines_of "$verb, all in one") ;;
+        size\ *) lines_of_size "${1#size }"; return ;;
+        *) lines_of "$1"; return ;;
+    esac
     for item in $(scenes | sed -n "s/^$verb //p" | grep -vx 'packages\|all'); do
         lines_of "$verb $item"
     done | sed "s|^${own% *} .*|$own|"

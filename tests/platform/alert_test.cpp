@@ -156,7 +156,7 @@ TEST_F(AlertTest, NoButtonIsLostOnTheSmallestScreensAndWithLargeText) {
         QGuiApplication::setFont(font);
         resize(screen);
         showAndWait({.title = "Choose",
-                     .message = std::string(200, 'x'),
+                     .message = std::string(200, 'x') + std::string(100, '\n'),
                      .otherButtonTitles = std::vector<std::string>(11, "Another choice")});
         const QRectF panel = frameOf(presenter->top()->panel());
         EXPECT_TRUE(QRectF({0, 0}, screen).contains(panel));
@@ -174,21 +174,6 @@ TEST_F(AlertTest, NoButtonIsLostOnTheSmallestScreensAndWithLargeText) {
         clock.advance(alertLeaveDuration);
     }
     QGuiApplication::setFont(usual);
-}
-
-TEST_F(AlertTest, LongMessagesScrollAndTheButtonsStay) {
-    resize({480, 320});
-    std::string message;
-    for (int line = 0; line < 400; ++line)
-        message += "One more line.\n";
-    showAndWait({.title = "Long", .message = message, .otherButtonTitles = {"Yes"}});
-    auto* area = presenter->top()->panel()->property("textArea").value<QQuickItem*>();
-    const QRectF panel = frameOf(presenter->top()->panel());
-    EXPECT_TRUE(QRectF(0, 0, 480, 320).contains(panel));
-    for (const QQuickItem* button : presenter->top()->buttons())
-        EXPECT_TRUE(panel.contains(frameOf(button)));
-    key(Qt::Key_PageDown);
-    EXPECT_NEAR(area->property("contentY").toDouble(), area->height(), 30);
 }
 
 TEST_F(AlertTest, MarkupIsShownAsItIs) {
@@ -259,18 +244,6 @@ TEST_F(AlertTest, AssistiveTechnologyFindsTheTopmostAlertOnly) {
     EXPECT_EQ(allOffered(), QStringList({"Older", "Close"}));
     presenter->dismiss(older, 0, Animated::No);
     EXPECT_EQ(allOffered(), all);
-}
-
-TEST_F(AlertTest, GivesTheKeyboardBackToWhatHadIt) {
-    for (const auto reason : {Qt::TabFocusReason, Qt::OtherFocusReason}) {
-        buttons[0]->forceActiveFocus();
-        buttons[1]->forceActiveFocus(reason);
-        showAndWait(question);
-        key(Qt::Key_Escape);
-        clock.advance(alertLeaveDuration);
-        EXPECT_EQ(window.activeFocusItem(), buttons[1]);
-        EXPECT_EQ(buttons[1]->property("visualFocus").toBool(), reason == Qt::TabFocusReason);
-    }
 }
 
 TEST_F(AlertTest, WhoeverGoesFirstTheOthersLiveOn) {

@@ -57,23 +57,25 @@ struct Item {
     Entries changes;
     Entries tests;  // for each archive, in their order
     Entries alert;
+    Entries size;
     Entries otherwise;
 };
 
 void addLine(Item& item, const std::string& line) {
-    const std::string archives = "exists: /var/mobile/Library/Preferences/Tarnwick/TarnwickLibrary";
     if (line.starts_with("run: killall "))
         item.stop.push_back(line);
     else if (line.starts_with("alert: "))
         item.alert.push_back(line);
     else if (line.starts_with("otherwise: "))
         item.otherwise.push_back("alert: " + line.substr(11));
+    else if (line.starts_with("size: "))
+        item.size.push_back("alert: " + line.substr(6));
     else
         item.changes.push_back(line);
     for (const std::string_view program : {"run: zip -r ", "run: /usr/bin/unzip "})
         if (line.starts_with(program)) {
             const std::string archive = wordAfter(line, program);
-            item.tests.push_back(archives + archive.substr(archive.rfind('/')));
+            item.tests.push_back("exists: " + library + archive.substr(archive.rfind('/') + 1));
         }
 }
 
@@ -140,20 +142,31 @@ bool isLine(const std::string& change) {
     return change.starts_with("run: ");
 }
 
-bool removesArchive(const std::string& change) {
-    return change.starts_with("remove: ") && change.ends_with(".zip");
+// What is done in the folder of archives, done in the one for temporary files.
+Entries inTemporaryFolder(Entries changes) {
+    for (std::string& change : changes)
+        for (auto at = change.find(library); at != std::string::npos; at = change.find(library))
+            change.replace(at, library.size(), "/var/tmp/");
+    return changes;
 }
 
-void addSizes(Table& table, const std::vector<Item>& items, const Entries& rules) {
+Entries removalsOf(const Entries& archiveTests) {
+    Entries removals;
+    for (const std::string& test : archiveTests)
+        removals.push_back("remove: " + test.substr(std::string("exists: ").size()));
+    return removals;
+}
+
+void addSizes(Table& table, const std::vector<Item>& items, const Entries& hud,
+              const std::string& copyInAllInOne) {
     for (const Item& item : items) {
-        const Entries start = {rules.at(0), item.tests.at(0)};
-        const auto& changes = item.changes;
-        const auto lines = std::find_if_not(changes.begin(), changes.end(), isLine);
-        const auto archives = std::find_if(lines, changes.end(), removesArchive);
-        table["size " + item.word] = start + Entries(changes.begin(), lines) + item.alert +
-                                     Entries(lines, archives) + Entries{"hide"} +
-                                     Entries(archives, changes.end());
-        table["size " + item.word + ", saved"] = start + item.alert + Entries{"hide"};
+        const Entries start = hud + Entries{item.tests.at(0)};
+        const Entries changes = inTemporaryFolder(asInAllInOne(item.changes, copyInAllInOne));
+        const auto lines = std::ranges::find_if_not(changes, isLine);
+        table["size " + item.word] = start + Entries(changes.begin(), lines) + item.size +
+                                     Entries(lines, changes.end()) + Entries{"hide"} +
+                                     inTemporaryFolder(removalsOf(item.tests));
+        table["size " + item.word + ", saved"] = start + item.size + Entries{"hide"};
     }
 }
 
@@ -165,9 +178,11 @@ std::map<std::string, Entries> literalEvents() {
     for (const Section& section : sections)
         table[section.name] = section.lines;
     const auto rules = [&table](const char* name) { return table.extract(name).mapped(); };
-    addSaves(table, itemsOf("save", sections), rules("save, all in one"));
+    const std::vector<Item> items = itemsOf("save", sections);
+    const Entries saveRules = rules("save, all in one");
+    addSaves(table, items, saveRules);
+    addSizes(table, items, rules("size, every item"), saveRules.at(1));
     addRestores(table, itemsOf("restore", sections), rules("restore, all in one"));
-    addSizes(table, itemsOf("size", sections), rules("size, every item"));
     table.erase(questionsSection);
     return table;
 }
