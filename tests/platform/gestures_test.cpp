@@ -281,8 +281,7 @@ TEST_P(Gestures, ATouchBelongsToTheTopmostViewThatShowsThere) {
         }
 }
 
-INSTANTIATE_TEST_SUITE_P(ByTouchAndMouse, Gestures,
-                         ::testing::Values(Pointer::Touch, Pointer::Mouse));
+INSTANTIATE_TEST_SUITE_P(By, Gestures, ::testing::Values(Pointer::Touch, Pointer::Mouse));
 
 }  // namespace
 }  // namespace tarnwick::testing

@@ -12,6 +12,9 @@
 namespace tarnwick::testing {
 
 enum class Pointer { Touch, Mouse };
+inline void PrintTo(Pointer pointer, std::ostream* out) {
+    *out << (pointer == Pointer::Touch ? "Touch" : "Mouse");
+}
 
 // A finger on a shown window, or the mouse with its left button. What takes time passes on the
 // clock, whose time the events carry and by which the window draws its frames. A finger that
