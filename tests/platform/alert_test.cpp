@@ -170,6 +170,9 @@ TEST_F(AlertTest, NoButtonIsLostOnTheSmallestScreensAndWithLargeText) {
             reached.insert(window.activeFocusItem());
         }
         EXPECT_EQ(reached.size(), 12U);
+        key(Qt::Key_PageDown);
+        auto* text = presenter->top()->panel()->property("textArea").value<QQuickItem*>();
+        EXPECT_GT(text->property("contentY").toDouble(), 20) << "a long message scrolls";
         key(Qt::Key_Escape);
         clock.advance(alertLeaveDuration);
     }

@@ -50,10 +50,10 @@ public:
 
     // Containment. The parent owns its children.
     ViewController* parentViewController() const { return parent_; }
-    // The child leaves its former parent and is told that it will move to this one; the caller
-    // tells it afterwards that it did.
+    // The child leaves its former parent and is notified that it will move to this one; the
+    // caller notifies it afterwards that it did.
     void addChildViewController(const std::shared_ptr<ViewController>& child);
-    // The controller is told that it moved to no parent.
+    // The controller is notified that it moved to no parent.
     void removeFromParentViewController();
     virtual void willMoveToParentViewController(ViewController* /*parent*/) {}
     virtual void didMoveToParentViewController(ViewController* /*parent*/) {}

@@ -20,7 +20,7 @@ class GestureRecognizer;
 // remains until the next touch starts.
 enum class GestureState { Possible, Began, Changed, Ended, Cancelled, Failed };
 
-// Consulted by the recognisers that it is set on. Held weakly: whoever implements it is a QObject
+// Consulted by the recognisers that it is set on. Held weakly: an implementation is a QObject
 // too.
 class GestureRecognizerDelegate {
 public:

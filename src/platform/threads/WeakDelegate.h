@@ -5,8 +5,8 @@
 
 namespace tarnwick {
 
-// A delegate that is notified but not kept alive. Whoever implements the Delegate class is a
-// QObject too, and is no longer notified once it is deleted. Main thread.
+// A delegate that is notified but not kept alive. An implementation of the Delegate class is
+// a QObject too, and is no longer notified once it is deleted. Main thread.
 template <class Delegate>
 class WeakDelegate {
 public:

@@ -179,7 +179,7 @@ void AlertPresenter::fade(double opacity, double duration, Animated animated) {
         applyAtOnce({change});
 }
 
-// Whoever works with the keyboard goes on seeing where it is.
+// Keyboard users keep seeing where the focus is.
 Qt::FocusReason AlertPresenter::focusReason() const {
     const QQuickItem* focused =
         layer_->window() != nullptr ? layer_->window()->activeFocusItem() : nullptr;

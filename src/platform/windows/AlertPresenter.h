@@ -52,11 +52,11 @@ public:
     // The stage and the container, into which alerts are put, must outlive the presenter; the
     // container must not be in the stage.
     AlertPresenter(Stage& stage, QQuickItem& container);
-    // Alerts that are up vanish; nobody is told.
+    // Alerts that are up vanish; no delegate is notified.
     ~AlertPresenter() override;
 
     AlertTicket show(Alert alert, std::weak_ptr<AlertDelegate> delegate = {});
-    // An alert that has not appeared yet never does. Its delegate is told that it was dismissed
+    // An alert that has not appeared yet never does. Its delegate is notified that it was dismissed
     // with this index, and not that a button was clicked. Does nothing if the alert has been
     // dismissed or its button has been pressed, or if there is no such alert.
     void dismiss(AlertTicket ticket, int buttonIndex, Animated animated);

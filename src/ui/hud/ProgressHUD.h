@@ -22,7 +22,7 @@ namespace tarnwick {
 
 class ProgressHUD;
 
-// Told when a HUD has been hidden. Held weakly: whoever implements it is a QObject too.
+// Notified when a HUD has been hidden. Held weakly: an implementation is a QObject too.
 class ProgressHUDDelegate {
 public:
     virtual ~ProgressHUDDelegate() = default;

@@ -16,14 +16,14 @@ int factorOf(RevealPosition position) {
     return position < FrontPositionClosed ? -1 : 1;
 }
 
-// Mirrors a position of the right side around closed, so that rules need to be told for one side
+// Mirrors a position of the right side around closed, so that rules need to be stated for one side
 // only.
 RevealPosition mirrored(RevealPosition position, int factor) {
     return static_cast<RevealPosition>(factor * (position - FrontPositionClosed) +
                                        FrontPositionClosed);
 }
 
-// Where a slow release goes, for a location that is told from closed outwards.
+// Where a slow release goes, for a location measured from closed outwards.
 RevealPosition slowTarget(const RevealSide& side, double width, double x) {
     if (x > width) {
         if (side.bounceBackOnOverdraw)

@@ -42,8 +42,8 @@ public:
     virtual void revealControllerPanGestureBegan(Reveal&) {}
     virtual void revealControllerPanGestureEnded(Reveal&) {}
 
-    // Of each pair the first is called; whoever does not care for the progress in the overdraw
-    // implements the second.
+    // Of each pair the first is called; a delegate that does not need the progress in the
+    // overdraw implements the second.
     virtual void revealControllerPanGestureBeganFromLocationProgressOverProgress(
         Reveal& reveal, double location, double progress, double /*overProgress*/) {
         revealControllerPanGestureBeganFromLocationProgress(reveal, location, progress);
