@@ -50,32 +50,18 @@ test_escapes() {
     refuse "a folder that the caller has open stays outside" on_phone test -e /proc/self/fd/300/secret 300<"$workspace"
 }
 
-# Whatever the device's root does to the programs: those that build the device are the host's, and no other gets the
-# rights that this takes.
+# The programs that build the device are the host's, whatever root does to the device's own.
 test_planted_programs() {
-    local library rights
-    library=$(ldd /usr/bin/mount | sed -n 's:.*libmount.* => \(/usr\)\?\(/[^ ]*\).*:/usr\2:p')
-    rights=$(on_phone grep CapEff /proc/self/status)
-    on_phone sh -c 'rm "$1"; echo broken >"$1"' - "$library"
-    refuse "a library planted on the device is used there" on_phone mount --version
-    cat >"$workspace/planted" <<'PROGRAM'
-#!/var/db/dash
-while read -r line; do
-    case $line in CapEff*) rights=$line ;; esac
-done </proc/self/status
-echo "${0##*/}" "$rights" >>/var/planted
-PROGRAM
     # shellcheck disable=SC2016
-    DEVICE_SHARE=$workspace on_phone sh -c 'cp /usr/bin/cp /usr/bin/dash /mnt/share/planted /var/db; chmod +x /var/db/planted
-        for name in bash cat chmod chown cp env install ln mkdir mount mount.devpts mount.overlay mount.tmpfs perl \
-            pivot_root realpath rm rmdir setpriv umount unshare; do
-            for folder in /sbin /usr/sbin /usr/bin; do
-                /var/db/cp --remove-destination -p /var/db/planted $folder/$name
+    on_phone sh -c 'printf "#!/bin/sh\necho planted >/var/planted\n" >/usr/bin/planted && chmod +x /usr/bin/planted
+        for folder in /sbin /usr/sbin /usr/bin; do
+            for name in bash cp env mkdir mount mount.overlay pivot_root rm setpriv umount unshare; do
+                ln -f /usr/bin/planted "$folder/$name" 2>/dev/null || ln -fs /usr/bin/planted "$folder/$name"
             done
         done'
-    check "neither it nor programs planted there have a part in its start" on_phone /var/db/dash -c 'test ! -e /var/planted'
-    same "a planted program that is started there has the rights of any other" "mount $rights" \
-        "$(on_phone /var/db/dash -c 'mount; read -r line </var/planted; echo "$line"')"
+    on_phone mount
+    check "a planted program runs on the device" on_phone sh -c 'test -s /var/planted && : >/var/planted'
+    refuse "none has a part in its start" on_phone test -s /var/planted
     device wipe "$phone"
 }
 

@@ -23,11 +23,10 @@ test_applications() {
     same "the applications are up before the command, as mobile" "$applications" \
         "$(on_phone ps -u mobile -o comm= | sort | xargs)"
     start_host_process MobileSMS
-    for name in $applications; do
+    for name in MobileSMS backboardd; do
         on_phone killall "$name"
     done
-    same "every stop is logged" \
-        "$(for name in $applications; do echo "stopped $name"; done | sed 's/.*backboardd/respring/' | sort)" "$(events)"
+    same "every stop is logged" "respring stopped MobileSMS" "$(events | xargs)"
     check "the host's process of the same name goes on" kill -0 "${host_processes[0]}"
     # shellcheck disable=SC2016
     check "backboardd comes back as a new process" on_phone bash -c '
@@ -48,9 +47,6 @@ test_reboot() {
 test_model() {
     same "uname reports the model" iPhone8,2 "$(on_phone uname -m)"
     same "and the rest unchanged" "$(uname -srv)" "$(on_phone uname -srv)"
-    on_phone sh -c 'cp /usr/bin/uname /usr/bin/id /var/db; chmod 4755 /var/db/uname /var/db/id'
-    same "a set-user-ID program has root's rights and sees the model too" "0 iPhone8,2" \
-        "$(device boot "$phone" --user mobile sh -c '/var/db/id -u; /var/db/uname -m' | xargs)"
     device wipe "$phone"
     same "a wipe does not change the hardware" iPhone8,2 "$(on_phone uname -m)"
 }

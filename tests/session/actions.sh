@@ -6,5 +6,3 @@ source "$(dirname "${BASH_SOURCE[0]}")/session_lib.sh"
 require_programs Xvfb dbus-daemon gdbus 9wm xdotool
 install_on_phone "$phone" --model iPhone8,1
 on_session "$phone" actions
-install_on_phone "$workspace/later" --model iPhone9,1
-on_session "$workspace/later" later_model
