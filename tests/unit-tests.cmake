@@ -27,7 +27,6 @@ tarnwick_test(operations_test
     backup/backup_operations_test.cpp
     events/events_test.cpp
     options/options_operations_test.cpp
-    options/size_formatters_test.cpp
     restore/restore_operations_test.cpp)
 tarnwick_test(mail_test
     mail/mail_command_test.cpp
@@ -35,10 +34,9 @@ tarnwick_test(mail_test
     mail/mail_message_test.cpp)
 target_link_libraries(mail_test PRIVATE PkgConfig::GMIME)
 tarnwick_test(cli_test
-    cli/arguments_test.cpp
     cli/command_line_test.cpp
-    cli/json_test.cpp
-    cli/supervisor_test.cpp)
+    cli/supervisor_test.cpp
+    cli/words_and_output_test.cpp)
 
 # A program of tests of items and windows: with a loop and a clock of their own, without a display.
 add_library(window_support STATIC support/Finger.cpp support/SteppedClock.cpp support/qt_main.cpp)

@@ -247,15 +247,5 @@ TEST(CommandLine, TellsSizesAndStorageInBothForms) {
               "1.00 KB\"}\n");
 }
 
-TEST(CommandLine, TheHelpTextsComeInOrder) {
-    CommandLineRun tarnwick;
-    EXPECT_EQ(tarnwick("faq"), AllDone);
-    const std::string faq = tarnwick.results();
-    EXPECT_TRUE(faq.starts_with("Here you cand find some Help about Tarnwick"));
-    EXPECT_NE(faq.find("Tarnwick 2 safeguard folder is located at " + root + "\n\nHow can I do"),
-              std::string::npos);
-    EXPECT_TRUE(faq.ends_with("I will in the future add a way to delete one at one)\n"));
-}
-
 }  // namespace
 }  // namespace tarnwick::testing

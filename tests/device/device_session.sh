@@ -7,29 +7,6 @@ runtime=$workspace/runtime
 display=$((20000 + $$ % 10000))
 x_socket=/tmp/.X11-unix/X$display
 
-# Answers every connection with the name of the socket that it came through.
-listen() {
-    perl -MIO::Socket::UNIX -MIO::Select -e '
-        my (%name, $select); $select = IO::Select->new;
-        for my $path (@ARGV) {
-            my $socket = IO::Socket::UNIX->new(Local => $path, Listen => 5) or die "$path: $!";
-            $name{$socket} = $path; $select->add($socket);
-        }
-        while (my @ready = $select->can_read) {
-            for (@ready) { my $peer = $_->accept; print {$peer} $name{$_} =~ s|.*/||r, "\n" }
-        }' "$@" &
-    host_processes+=("$!")
-    disown "$!"
-    for path in "$@"; do
-        wait_until test -S "$path"
-    done
-}
-
-ask() {
-    "${caller[@]}" "$repository/device/device" boot "$phone" perl -MIO::Socket::UNIX -e '
-        my $socket = IO::Socket::UNIX->new(Peer => $ARGV[0]) or die "$ARGV[0]: $!"; print readline $socket' "$1"
-}
-
 names_of_environment() {
     "$@" "$repository/device/device" boot "$phone" env | cut -d= -f1 | sort | xargs
 }

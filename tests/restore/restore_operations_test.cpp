@@ -101,32 +101,21 @@ TEST(RestoreOperations, NamesInTheConfirmationLoseEveryZip) {
         "them ?");
 }
 
-TEST(RestoreOperations, ButtonsDoWhatTheTableSaysAndNoMore) {
-    struct Row {
-        int tag;
-        int index;
-        std::string firstEntry;
-    };
-    const Row rows[] = {
-        {1, 1, "run: /usr/bin/killall backboardd"},
-        {2, 1, "run: /sbin/reboot"},
-        {3, 1, "hud: Restoration in progress..."},
-        {0, 0, ""},
-        {0, 1, ""},
-        {1, 0, ""},
-        {2, 0, ""},
-        {3, 0, ""},
-        {1, 2, ""},
-        {4, 1, ""},
-        {3, -1, ""},
-    };
-    for (const Row& row : rows) {
+TEST(RestoreOperations, AnswersOfUnknownAlertsAndButtonsDoNothing) {
+    const std::pair<int, int> rows[] = {{0, 1}, {1, 0}, {1, 2}, {2, 0}, {3, 0}, {3, -1}, {4, 1}};
+    for (const auto& [tag, index] : rows) {
         Operations on;
-        Alert alert;
-        alert.tag = row.tag;
-        on.restore.alertViewClickedButtonAtIndex(alert, row.index);
-        EXPECT_EQ(on.diary.entries.empty() ? "" : on.diary.entries.front(), row.firstEntry)
-            << row.tag << ", " << row.index;
+        on.restore.alertViewClickedButtonAtIndex({.tag = tag}, index);
+        EXPECT_TRUE(on.diary.entries.empty()) << tag << ", " << index;
+    }
+}
+
+TEST(RestoreOperations, AnAcceptedOfferIsDone) {
+    for (const auto& [tag, line] :
+         {std::pair(1, "run: /usr/bin/killall backboardd"), std::pair(2, "run: /sbin/reboot")}) {
+        Operations on;
+        on.restore.alertViewClickedButtonAtIndex({.tag = tag}, 1);
+        EXPECT_EQ(on.diary.entries, Entries{line});
     }
 }
 

@@ -188,61 +188,38 @@ TEST_F(ProgressHUDTest, EachModeHasItsIndicator) {
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&hud)->text(QAccessible::Name), "Busy");
 }
 
+void expectLayout(const char* name, const HUDContents& contents, const QRectF& box, double labelY,
+                  double detailsY) {
+    const HUDLayout layout = layOut(contents);
+    EXPECT_EQ(layout.box, box) << name;
+    EXPECT_EQ(layout.label.y(), labelY) << name;
+    EXPECT_EQ(layout.details.y(), detailsY) << name;
+}
+
 TEST(ProgressHUDLayout, StacksItsPartsInTheBox) {
-    const auto text = [](double width, double height) {
-        return [=](const QSizeF& limit) { return QSizeF(width, height).boundedTo(limit); };
-    };
-    struct Row {
-        const char* name;
-        HUDContents contents;
-        QRectF box;
-        double labelY;
-        double detailsY;
-    };
+    const auto details = [](const QSizeF& limit) { return QSizeF(150, 30).boundedTo(limit); };
     const QSizeF phone(375, 667);
-    const Row rows[] = {
-        {"the indicator alone has no gaps",
-         {.bounds = phone, .indicator = {37, 37}},
-         {149, 295, 77, 77},
-         352,
-         352},
-        {"indicator, line and text",
-         {.bounds = phone, .indicator = {37, 37}, .label = {100, 20}, .details = text(150, 30)},
-         {93, 266, 190, 135},
-         327,
-         351},
-        {"a line too wide is cut",
-         {.bounds = phone, .label = {500, 20}},
-         {20, 304, 335, 60},
-         324,
-         344},
-        {"shifted",
-         {.bounds = phone, .indicator = {37, 37}, .offset = {10, -20}},
-         {159, 275, 77, 77},
-         332,
-         332},
-        {"square",
-         {.bounds = phone, .label = {160, 20}, .square = true},
-         {88, 234, 200, 200},
-         324,
-         344},
-        {"square only where it fits",
-         {.bounds = {375, 150}, .label = {160, 20}, .square = true},
-         {88, 45, 200, 60},
-         65,
-         85},
-        {"at least so large",
-         {.bounds = phone, .indicator = {37, 37}, .minSize = {120, 80}},
-         {128, 294, 120, 80},
-         352,
-         352},
-    };
-    for (const Row& row : rows) {
-        const HUDLayout layout = layOut(row.contents);
-        EXPECT_EQ(layout.box, row.box) << row.name;
-        EXPECT_EQ(layout.label.y(), row.labelY) << row.name;
-        EXPECT_EQ(layout.details.y(), row.detailsY) << row.name;
-    }
+    const HUDContents spinner = {.bounds = phone, .indicator = {37, 37}};
+    const HUDContents label = {.bounds = phone, .label = {160, 20}};
+    expectLayout("the indicator alone has no gaps", spinner, {149, 295, 77, 77}, 352, 352);
+    HUDContents contents = spinner;
+    contents.offset = {10, -20};
+    expectLayout("shifted", contents, {159, 275, 77, 77}, 332, 332);
+    contents = spinner;
+    contents.minSize = {120, 80};
+    expectLayout("at least so large", contents, {128, 294, 120, 80}, 352, 352);
+    contents = spinner;
+    contents.label = {100, 20};
+    contents.details = details;
+    expectLayout("all three", contents, {93, 266, 190, 135}, 327, 351);
+    contents = label;
+    contents.label = {500, 20};
+    expectLayout("a line too wide is cut", contents, {20, 304, 335, 60}, 324, 344);
+    contents = label;
+    contents.square = true;
+    expectLayout("square", contents, {88, 234, 200, 200}, 324, 344);
+    contents.bounds = {375, 150};
+    expectLayout("square only where it fits", contents, {88, 45, 200, 60}, 65, 85);
 }
 
 }  // namespace

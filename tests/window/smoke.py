@@ -1,4 +1,4 @@
-"""A tour of the window on a device, whose folder is given: what only the real program on a real bus can show."""
+"""The window on a device, whose folder is given: what only the real program on a real bus can show."""
 
 import pathlib
 import re
@@ -12,23 +12,11 @@ scenes = pathlib.Path(__file__).parents[2] / "storyboard"
 window = Window()
 
 
-def captions(title):
-    """Of the scene's headings and buttons, which precede those of the bar."""
-    text = (scenes / f"{title}.qml").read_text()
-    return re.findall(r'(?:SectionHeading|ScreenButton) \{.* text: "([^"]*)"', text) + ["Menu", title]
-
-
 def check_screen(title, before=()):
-    window.wait_for("it is complete", lambda: window.names(HEADING, BUTTON) == [*before, *captions(title)])
+    """The scene's headings and buttons precede those of the bar."""
+    captions = re.findall(r'(?:SectionHeading|ScreenButton) \{.* text: "([^"]*)"', (scenes / f"{title}.qml").read_text())
+    window.wait_for("it is complete", lambda: window.names(HEADING, BUTTON) == [*before, *captions, "Menu", title])
     same(f"{title}: everything has a name", [], window.nameless())
-
-
-def check_menu():
-    window.open_menu()
-    same("the menu precedes the screen", ["Tarnwick", "Backup", "Restore", "Cloud", "Options", "Help"],
-         window.names(HEADING, BUTTON)[:6])
-    window.press("Menu")
-    window.wait_for_screen("Backup")
 
 
 def check_save():
@@ -58,11 +46,9 @@ def check_escape():
 
 
 check_screen("Backup")
-check_menu()
 check_save()
 for screen, before in ("Restore", []), ("Cloud", ["Keep a copy elsewhere"]), ("Options", []):
     window.go_to(screen)
     check_screen(screen, before)
 check_escape()
 window.go_to("Help")
-same("Help: its questions are headings", 5, len(window.names(HEADING)))

@@ -77,11 +77,8 @@ export PYTHONDONTWRITEBYTECODE=1
 /usr/bin/python3 -c 'import gi; gi.require_version("Atspi", "2.0")' 2>/dev/null ||
     skip "python3-gi or gir1.2-atspi-2.0 is missing"
 start_buses
-/usr/bin/python3 "$repository/tests/window/screen_saver.py" >"$workspace/awake" 2>&1 &
-servers+=("$!")
 open_window
 /usr/bin/python3 "$repository/tests/window/smoke.py" "$phone" || { cat "$workspace/output"; exit 1; }
-same "the screen is kept awake by one request" "Inhibit Tarnwick" "$(<"$workspace/awake")"
 same "the archive is good" "Notes.zip: good" "$(on_phone tarnwick check notes)"
 xdotool search --onlyvisible --class Tarnwick windowminimize
 window_ends "minimising the window ends the program by a signal"

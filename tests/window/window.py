@@ -11,7 +11,6 @@ from gi.repository import Atspi, GLib
 
 PATIENCE = 20  # seconds; nothing here takes a fifth of them
 POLL = 0.005  # seconds
-SAFEGUARD = "/var/mobile/Library/Preferences/Tarnwick"
 
 # Roles by number: their names differ between versions of the bus.
 BUTTON = Atspi.Role.PUSH_BUTTON
@@ -132,9 +131,6 @@ class Window:
         """It is in front, with the menu closed."""
         self.wait_for(f'the screen "{title}"', lambda: self._only("Menu") and title in self.names(HEADING)
                       and "Cloud" not in self.names(BUTTON))
-
-    def is_offered(self, name):
-        return self._only(name) is not None
 
     def open_menu(self):
         self.press("Menu")

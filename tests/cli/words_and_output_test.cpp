@@ -1,7 +1,7 @@
-#include "cli/Arguments.h"
-
 #include <gtest/gtest.h>
 
+#include "cli/Arguments.h"
+#include "cli/Json.h"
 #include "cli/ProgressLine.h"
 
 namespace tarnwick {
@@ -39,6 +39,15 @@ TEST(ProgressLine, ShowsItemPlaceAndTimeWithinTheWidth) {
               "Backup in progress... calendar (3/11) 61:01");
     EXPECT_EQ(progressText(progress, seconds(0), 10), "Backup in");
     EXPECT_EQ(progressText(progress, seconds(0), 0), "");
+}
+
+TEST(Json, WritesOneValidLineWhateverTheTextHolds) {
+    EXPECT_EQ(jsonObject({}), "{}");
+    EXPECT_EQ(jsonObject({{"a", "b"}, {"n", std::int64_t{-3}}}), R"({"a":"b","n":-3})");
+    EXPECT_EQ(jsonObject({{"text", "\"\\\n\t\x01\x7F"}}),
+              "{\"text\":\"\\\"\\\\\\n\\t\\u0001\x7F\"}");
+    EXPECT_EQ(jsonObject({{"name", "\u00E9"}}), "{\"name\":\"\u00E9\"}");
+    EXPECT_EQ(jsonObject({{"name", "a\xFF-"}}), "{\"name\":\"a\uFFFD-\"}");
 }
 
 }  // namespace
