@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
-#include <QImage>
-#include <QQuickWindow>
 #include <QTemporaryDir>
 
 #include "platform/controllers/NavigationBar.h"
@@ -12,7 +10,6 @@
 #include "platform/controllers/Outlet.h"
 #include "platform/controllers/StateCoder.h"
 #include "platform/controllers/StatusBar.h"
-#include "platform/views/Layer.h"
 #include "support/SteppedClock.h"
 #include "ui/reveal/RevealSegues.h"
 #include "ui/reveal/RevealViewController.h"
@@ -213,29 +210,6 @@ TEST(StatusBar, MakesRoomOnlyWhereItCoversTheView) {
     EXPECT_EQ(statusBarAdjustment({0, 0, 375, 20}, {0, 0, 375, 667}), 20);
     EXPECT_EQ(statusBarAdjustment({0, 0, 20, 667}, {0, 0, 375, 667}), 20);
     EXPECT_EQ(statusBarAdjustment({0, 0, 375, 20}, {0, 20, 375, 647}), 0);
-}
-
-TEST(Layer, DrawsFillBorderAndShadowBehindItsView) {
-    QQuickWindow window;
-    window.resize(100, 100);
-    QQuickItem view(window.contentItem());
-    view.setPosition({30, 30});
-    Layer& layer = Layer::of(&view);
-    layer.setBackgroundColor(Qt::red);
-    layer.setBorderColor(Qt::blue);
-    layer.setBorderWidth(2);
-    layer.setCornerRadius(8);
-    layer.setShadow({.opacity = 1, .offset = {0, 5}, .radius = 2});
-    view.setSize({40, 40});
-    window.show();
-    const QImage picture = window.grabWindow();
-    EXPECT_EQ(picture.pixelColor(50, 50), Qt::red);
-    EXPECT_EQ(picture.pixelColor(50, 30), Qt::blue);
-    EXPECT_LT(picture.pixelColor(50, 72).lightness(), 60) << "the shadow lies below";
-    EXPECT_GT(picture.pixelColor(50, 26).lightness(), 240) << "and not above";
-    EXPECT_NE(picture.pixelColor(31, 31), Qt::blue) << "the corner is round";
-    view.setSize({20, 20});
-    EXPECT_EQ(window.grabWindow().pixelColor(70, 60), Qt::white);
 }
 
 }  // namespace
