@@ -1,6 +1,4 @@
 #include <gtest/gtest.h>
-#include <pty.h>
-#include <unistd.h>
 
 #include "cli/CommandLine.h"
 #include "cli/CommandTable.h"
@@ -8,6 +6,7 @@
 #include "support/CommandLineRun.h"
 #include "support/Events.h"
 #include "support/Operations.h"
+#include "support/Terminal.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -146,33 +145,19 @@ TEST(CommandLine, TheOfferIsClosedUnlessThenSaysOtherwise) {
 }
 
 TEST(CommandLine, AtATerminalTheStrongestOfSeveralOffersIsAsked) {
-    int person = -1;
-    int terminal = -1;
-    ASSERT_EQ(::openpty(&person, &terminal, nullptr, nullptr, nullptr), 0);
+    const Terminal terminal;
     const std::pair<const char*, const char*> rows[] = {
         {"restore springboard accounts springboard", "run: /sbin/reboot"},
         {"restore springboard notes", "run: /usr/bin/killall backboardd"}};
     for (const auto& [words, accepted] : rows)
         for (const std::string answer : {"y\n", "n\n", "\n"}) {
             CommandLineRun tarnwick;
-            tarnwick.terminal = terminal;
+            tarnwick.terminal = terminal.program;
             tarnwick.folder.putEveryArchive();
-            ASSERT_GT(::write(person, answer.data(), answer.size()), 0);
+            terminal.type(answer);
             EXPECT_EQ(tarnwick(words), AllDone);
             EXPECT_EQ(tarnwick.diary.entries.back() == accepted, answer == "y\n") << words;
         }
-    ::close(person);
-    ::close(terminal);
-}
-
-TEST(CommandLine, AMissingBackupIsAProblemEvenIfTheRestIsRestored) {
-    CommandLineRun tarnwick;
-    tarnwick.folder.put(library + "Notes.zip", "zip");
-    EXPECT_EQ(tarnwick("restore notes packages"), NotAllDone);
-    EXPECT_EQ(tarnwick.results(), "Notes Restoration: Restoration done !\n");
-    EXPECT_EQ(tarnwick.problems(),
-              "Cydia Packages Restoration: You have no Cydia Packages backup, there is nothing to "
-              "do !\n");
 }
 
 TEST(CommandLine, AnInterruptedRunTakesItsStagingCopiesAway) {

@@ -47,13 +47,5 @@ TEST_F(ThreadedScreensTest, AnAnswerFindsItsScreenWhenAnotherOneIsInFront) {
     EXPECT_TRUE(restore.expired());
 }
 
-TEST_F(ThreadedScreensTest, OptionsFillsItsFigures) {
-    choose("options");
-    while (element("freeUserMemory")->property("text").toString() == "\u2026")
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-    EXPECT_EQ(element("freeUserMemory")->property("text").toString(), "12.50 GB");
-    EXPECT_EQ(element("totalUserMemory")->property("text").toString(), "64.00 GB");
-}
-
 }  // namespace
 }  // namespace tarnwick::testing

@@ -7,7 +7,6 @@
 #include "mail/CloudViewController.h"
 #include "mail/ComposerMailer.h"
 #include "platform/windows/ModalPresentation.h"
-#include "support/Finger.h"
 #include "support/ProgramWindow.h"
 
 namespace tarnwick::testing {
@@ -35,18 +34,6 @@ protected:
         return mailer.sent.back();
     }
 };
-
-TEST_F(CloudScreenTest, IsStyledAndWiredToTheMenu) {
-    EXPECT_EQ(screen().title(), "Cloud");
-    const auto* layer = element("sendBackupButton")->findChild<QQuickItem*>("layer");
-    ASSERT_NE(layer, nullptr);
-    EXPECT_EQ(layer->property("color").value<QColor>(), QColor::fromRgbF(0, 122 / 255.0F, 1));
-    screen().view()->findChild<BarButtonItem*>("sidebarButton")->press();
-    EXPECT_EQ(reveal->frontViewPosition(), FrontPositionSlidRight);
-    reveal->setFrontViewPosition(FrontPositionClosed);
-    Finger(window, clock).drag({100, 120}, {300, 120}, 0.3);
-    EXPECT_EQ(reveal->frontViewPosition(), FrontPositionSlidRight);
-}
 
 TEST_F(CloudScreenTest, MailsTheListAsItStandsOnDisk) {
     const ComposedMail without = sentMail();
@@ -94,12 +81,8 @@ TEST(ComposerMailer, TellsWhyNothingWasSentOrKept) {
     const ComposedMail mail = {.recipients = {"me@example.org"}};
     device.send(mail, write);
     device.keepDraft(mail, write);
-    device.keepDraft({.subject = "a\nb"}, write);
-    EXPECT_EQ(answers, (std::vector<QString>{"There is no mailer at /nowhere/sendmail.", "done",
-                                             "The subject of a mail must not contain a line "
-                                             "break."}));
+    EXPECT_EQ(answers, (std::vector<QString>{"There is no mailer at /nowhere/sendmail.", "done"}));
     EXPECT_EQ(SystemFileManager(folder.path()).list("/home/Library/Mail/Drafts/cur")->size(), 1U);
-    EXPECT_TRUE(device.isRecipient("me@example.org") && !device.isRecipient("me"));
 }
 
 }  // namespace

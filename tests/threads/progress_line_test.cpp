@@ -1,12 +1,12 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <pty.h>
 #include <unistd.h>
 
 #include <algorithm>
 
 #include "cli/ProgressLine.h"
 #include "support/TemporaryFolder.h"
+#include "support/Terminal.h"
 
 namespace tarnwick {
 namespace {
@@ -15,28 +15,25 @@ namespace {
 // width, and taken away.
 TEST(ProgressLine, DrawsOnATerminalOnly) {
     ::setenv("TERM", "xterm", 1);
-    int person = -1;
-    int terminal = -1;
-    ASSERT_EQ(::openpty(&person, &terminal, nullptr, nullptr, nullptr), 0);
+    testing::Terminal terminal;
     std::string text;
     const auto readMore = [&] {
         char part[100];
-        const ssize_t count = ::read(person, part, sizeof part);
+        const ssize_t count = ::read(terminal.person, part, sizeof part);
         text.append(part, static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
         return count > 0;
     };
     {
-        ProgressLine line(terminal);
+        ProgressLine line(terminal.program);
         line.start("Backup in progress...");
         line.setItem("notes", 7, 11);
         while (!text.ends_with("0:01"))
             ASSERT_TRUE(readMore());
         line.without([] {});
     }
-    ::close(terminal);
+    terminal.hangUp();
     while (readMore())
         continue;
-    ::close(person);
     const std::string erase = "\r\033[K";
     EXPECT_EQ(text, erase + "Backup in progress... 0:00" + erase +
                         "Backup in progress... notes (7/11) 0:00" + erase +
