@@ -218,19 +218,5 @@ TEST(CommandLine, ListShowsWhatIsThere) {
     EXPECT_EQ(tarnwick("list"), NotRoot);
 }
 
-TEST(CommandLine, TellsSizesAndStorageInBothForms) {
-    CommandLineRun tarnwick;
-    EXPECT_EQ(tarnwick("storage"), AllDone);
-    EXPECT_EQ(tarnwick.results(), "Total: 64.00 GB\nFree: 12.50 GB\n");
-    EXPECT_EQ(tarnwick("storage --json"), AllDone);
-    EXPECT_EQ(tarnwick.results(), "{\"total\":\"64.00 GB\",\"free\":\"12.50 GB\"}\n");
-    tarnwick.folder.put(library + "SMS.zip", std::string(1024, 'x'));
-    EXPECT_EQ(tarnwick("size messages --json"), AllDone);
-    EXPECT_EQ(tarnwick.results(),
-              "{\"title\":\"Backup Size\",\"message\":\"The \\\"Messages / iMessages\\\" backup "
-              "size is : "
-              "1.00 KB\"}\n");
-}
-
 }  // namespace
 }  // namespace tarnwick::testing

@@ -68,20 +68,6 @@ test_removal_and_wipe() {
     check "the package is still offered" install_sample
 }
 
-# An overlay cannot hold the upper folder of another one.
-test_without_overlay() {
-    ((EUID == 0)) || return 0
-    mkdir "$workspace/merged"
-    mount -t overlay -o "lowerdir=/usr,upperdir=$workspace/overlay/upper,workdir=$workspace/overlay/work" none \
-        "$workspace/merged"
-    trap 'umount "$workspace/merged"; clean_up' EXIT
-    phone=$workspace/merged/phone
-    device new "$phone"
-    same "without overlays the device starts silently" up "$(on_phone echo up 2>&1)"
-    refuse "and its programs are the workstation's alone" on_phone touch /usr/bin/sample-greet
-    device delete "$phone"
-}
-
 device new "$phone"
 test_selections_after_a_wipe
 has_overlays || skip "the rest, as there are no overlays here"
@@ -89,4 +75,3 @@ make_package
 as_new=$(program_folder)
 test_offer_and_install
 test_removal_and_wipe
-test_without_overlay

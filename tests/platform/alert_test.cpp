@@ -179,13 +179,6 @@ TEST_F(AlertTest, NoButtonIsLostOnTheSmallestScreensAndWithLargeText) {
     QGuiApplication::setFont(usual);
 }
 
-TEST_F(AlertTest, MarkupIsShownAsItIs) {
-    showAndWait({.title = "A", .message = "b c"});
-    const double height = presenter->top()->panel()->height();
-    showAndWait({.title = "<h1>A</h1>", .message = "b<br>c"});
-    EXPECT_EQ(presenter->top()->panel()->height(), height);
-}
-
 TEST_F(AlertTest, DismissedByCodeItTellsOnlyThat) {
     AlertTicket waiting;
     std::thread([&] {

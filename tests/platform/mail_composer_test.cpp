@@ -198,15 +198,6 @@ TEST_F(MailComposerTest, TheSheetSlidesOverTheScreenAndCoversIt) {
     clock.advance(alertLeaveDuration);
     EXPECT_EQ(screen->diary, "");
 
-    // The next one comes while the last one goes.
-    const auto first = composer;
-    key(Qt::Key_Escape);
-    open(Animated::Yes);
-    EXPECT_EQ(first->view()->parentItem(), nullptr);
-    clock.advance(1);
-    EXPECT_TRUE(isUp());
-    EXPECT_FALSE(screen->button->isEnabled());
-
     window.setRootViewController(nullptr);
     screen.reset();
     finishDeletions();

@@ -56,34 +56,23 @@ TEST(RestoreOperations, SourcesThatCydiaDoesNotKnowGoIntoTheOwnList) {
     }
 }
 
-TEST(RestoreOperations, SourcesFallBackToTheSavedCydiaListAndThenToNothing) {
+TEST(RestoreOperations, WhereAListIsMissingTheNextOneCountsAndThenNothing) {
     Operations on;
     on.folder.put(savedCydia, "a\nb");
     on.folder.put(cache, "b");
-    on.folder.put(ownList, "old");
     on.folder.put(cydiaList, "stays");
     on.restore.restoreSources();
-    EXPECT_EQ(on.folder.content(ownList), "a");
+    EXPECT_EQ(on.folder.content(ownList), "a") << "of the saved list of Cydia's";
     EXPECT_EQ(on.folder.content(cydiaList), "stays");
-    on.files.remove(savedCydia);
+    on.files.remove(cache);
     on.restore.restoreSources();
-    EXPECT_EQ(on.folder.content(ownList), "");
-    EXPECT_EQ(on.diary.entries.back(),
-              "alert: Cydia Sources Restoration: Restoration done ! [Close] #0");
-}
-
-TEST(RestoreOperations, WithoutCydiasCacheItsListIsReplacedEvenByNothing) {
-    Operations on;
-    on.folder.put(savedCydia, "saved");
-    on.folder.put(savedList, "unused");
-    on.folder.put(cydiaList, "old");
-    on.folder.put(ownList, "own");
-    on.restore.restoreSources();
-    EXPECT_EQ(on.folder.content(cydiaList), "saved");
+    EXPECT_EQ(on.folder.content(cydiaList), "a\nb") << "without a cache it replaces Cydia's";
     EXPECT_EQ(on.folder.content(ownList), "(none)");
     on.files.remove(savedCydia);
     on.restore.restoreSources();
-    EXPECT_EQ(on.folder.content(cydiaList), "(none)");
+    EXPECT_EQ(on.folder.content(cydiaList), "(none)") << "also by nothing";
+    EXPECT_EQ(on.diary.entries.back(),
+              "alert: Cydia Sources Restoration: Restoration done ! [Close] #0");
 }
 
 TEST(RestoreOperations, NamesInTheConfirmationLoseEveryZip) {
