@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 
+#include "cli/Words.h"
 #include "options/OptionsOperations.h"
 #include "options/SizeFormatters.h"
 #include "support/Operations.h"
@@ -11,8 +12,9 @@ namespace tarnwick::testing {
 namespace {
 
 TEST(OptionsOperations, AnswersOfUnknownAlertsAndButtonsDoNothing) {
+    const int afterTheLastItem = static_cast<int>(itemWords(ItemCatalogue()).size()) + 1;
     for (int tag = -1; tag <= 9; ++tag) {
-        for (const int index : {-1, 0, 12, 100}) {
+        for (const int index : {-1, 0, afterTheLastItem, 100}) {
             Operations on;
             Alert alert;
             alert.tag = tag;
