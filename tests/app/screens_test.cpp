@@ -6,11 +6,9 @@
 #include "app/DeviceModel.h"
 #include "app/SidebarViewController.h"
 #include "cli/Words.h"
-#include "platform/threads/PlatformQueues.h"
 #include "screens/TaskScreen.h"
 #include "support/Events.h"
 #include "support/Finger.h"
-#include "support/Operations.h"
 #include "support/ProgramWindow.h"
 
 namespace tarnwick::testing {

@@ -49,7 +49,8 @@ TEST(BackupOperations, SourcesAreCopiedMergedOrTakenFromCydiasList) {
               (Entries{"remove: " + savedCydia, "copy: " + cydiaList + " to " + savedCydia}));
     EXPECT_EQ(cydias.folder.content(savedCydia), "deb c");
     EXPECT_EQ(cydias.folder.content(savedList), "stays");
-    EXPECT_EQ(cydias.diary.entries.back(), "alert: Cydia Sources Backup: Backup done ! [Close] #0");
+    EXPECT_EQ(Entries(cydias.diary.entries.end() - 2, cydias.diary.entries.end()),
+              (Entries{"hide", "alert: Cydia Sources Backup: Backup done ! [Close] #0"}));
 }
 
 TEST(BackupOperations, TheMergeKeepsEveryLineOfReadableLists) {

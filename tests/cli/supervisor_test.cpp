@@ -54,16 +54,14 @@ int endAfter(int signal, const std::function<int()>& work, const TemporaryFolder
 
 constexpr int interrupted = static_cast<int>(SupervisedRun::End::Interrupted);
 
-TEST(Supervisor, HandsTheStatusOn) {
-    const SupervisedRun run = supervise([] { return 5; }, [] {});
+TEST(Supervisor, HandsTheStatusOnAndReportsWorkThatWasKilled) {
+    bool tidy = false;
+    const SupervisedRun run = supervise([] { return 5; }, [&tidy] { tidy = true; });
     EXPECT_EQ(run.end, SupervisedRun::End::Finished);
     EXPECT_EQ(run.status, 5);
-}
-
-TEST(Supervisor, TellsWorkThatWasKilled) {
-    bool tidy = false;
-    const SupervisedRun run = supervise([] { return ::raise(SIGKILL); }, [&tidy] { tidy = true; });
-    EXPECT_EQ(run.end, SupervisedRun::End::Crashed);
+    EXPECT_FALSE(tidy);
+    EXPECT_EQ(supervise([] { return ::raise(SIGKILL); }, [&tidy] { tidy = true; }).end,
+              SupervisedRun::End::Crashed);
     EXPECT_TRUE(tidy);
 }
 

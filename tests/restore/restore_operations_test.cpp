@@ -71,8 +71,8 @@ TEST(RestoreOperations, WhereAListIsMissingTheNextOneCountsAndThenNothing) {
     on.files.remove(savedCydia);
     on.restore.restoreSources();
     EXPECT_EQ(on.folder.content(cydiaList), "(none)") << "also by nothing";
-    EXPECT_EQ(on.diary.entries.back(),
-              "alert: Cydia Sources Restoration: Restoration done ! [Close] #0");
+    EXPECT_EQ(Entries(on.diary.entries.end() - 2, on.diary.entries.end()),
+              (Entries{"hide", "alert: Cydia Sources Restoration: Restoration done ! [Close] #0"}));
 }
 
 TEST(RestoreOperations, NamesInTheConfirmationLoseEveryZip) {

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QQuickItem>
-#include <QStringList>
 #include <memory>
 #include <string>
 #include <vector>

@@ -40,17 +40,10 @@ TEST(Reveal, ASlowReleaseGoesToTheNearerEndAndBouncesBackFromTheOverdraw) {
         screen.clock.advance(moved);
         EXPECT_EQ(screen.x(), end) << released;
     }
-}
-
-TEST(Reveal, AFlickDecidesWhateverTheDistance) {
-    RevealScreen screen;
-    screen.finger.drag({20, 300}, {80, 300}, 0.1);
-    screen.clock.advance(moved);
-    EXPECT_EQ(screen.x(), 260);
-    screen.finger.drag({340, 300}, {280, 300}, 0.1);
-    screen.clock.advance(moved);
-    EXPECT_EQ(screen.x(), 0);
-    EXPECT_EQ(screen.view().rearView(), nullptr);
+    RevealScreen flicked;
+    flicked.finger.drag({20, 300}, {80, 300}, 0.1);
+    flicked.clock.advance(moved);
+    EXPECT_EQ(flicked.x(), 260);
 }
 
 TEST(Reveal, DoesNotOpenWhereThereIsNothingToReveal) {
