@@ -131,6 +131,7 @@ TEST(CommandLine, TheOfferIsClosedUnlessThenSaysOtherwise) {
         CommandLineRun tarnwick;
         tarnwick.folder.putEveryArchive();
         EXPECT_EQ(tarnwick(words), AllDone) << words;
+        EXPECT_EQ(tarnwick.problems(), "") << "nobody is asked";
         return tarnwick.diary.changes().back();
     };
     const std::string springBoard = "run: chown -R mobile:mobile /var/mobile/Library/SpringBoard";

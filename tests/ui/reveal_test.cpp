@@ -52,6 +52,13 @@ TEST(Reveal, DoesNotOpenWhereThereIsNothingToReveal) {
     EXPECT_TRUE(screen.diary.empty());
     screen.reveal->setFrontViewPosition(FrontPositionSlidLeft);
     EXPECT_EQ(screen.position(), FrontPositionClosed);
+    EXPECT_EQ(screen.view().rightView(), nullptr);
+    screen.finger.press({190, 300});
+    screen.finger.move({300, 300});
+    screen.finger.move({20, 300});
+    EXPECT_EQ(screen.x(), 0) << "on the way to a side without a child";
+    screen.finger.lift();
+    screen.clock.advance(moved);
     screen.listener.panMayBegin = false;
     screen.finger.drag({20, 300}, {200, 300});
     EXPECT_EQ(screen.x(), 0);
@@ -96,6 +103,16 @@ TEST(Reveal, ACancelledDragGoesBackToWhereItBegan) {
         screen.clock.advance(moved);
         EXPECT_EQ(screen.x(), 260);
     }
+}
+
+TEST(Reveal, ACancelledDragOfAnOpenFrontLeavesItOpen) {
+    RevealScreen screen;
+    screen.reveal->revealToggleAnimated(Animated::No);
+    screen.finger.press({340, 300});
+    screen.finger.move({100, 300});
+    screen.finger.cancel();
+    screen.clock.advance(moved);
+    EXPECT_EQ(screen.x(), 260);
 }
 
 TEST(Reveal, ADragDuringAMoveTakesTheViewOverAndHoldsWhatWaits) {
