@@ -19,22 +19,15 @@ TEST(Arguments, OptionsStandAnywhere) {
 }
 
 TEST(Arguments, FaultsNameTheNearestWord) {
-    const std::pair<std::vector<std::string>, const char*> rows[] = {
-        {{"--then", "rebot"}, "there is no answer \"rebot\"; did you mean \"reboot\" ?"},
-        {{"--then=respirng"}, "there is no answer \"respirng\"; did you mean \"respring\" ?"},
-    };
-    for (const auto& [typed, fault] : rows)
-        EXPECT_EQ(parseArguments(typed).fault, fault);
+    EXPECT_EQ(parseArguments({"--then=respirng"}).fault,
+              "there is no answer \"respirng\"; did you mean \"respring\" ?");
     EXPECT_TRUE(parseArguments({"--then"}).fault.has_value());
 }
 
 TEST(ProgressLine, ShowsItemPlaceAndTimeWithinTheWidth) {
     using std::chrono::seconds;
-    Progress progress = {.label = "Backup in progress..."};
-    EXPECT_EQ(progressText(progress, seconds(5), 80), "Backup in progress... 0:05");
-    progress.item = "calendar";
-    progress.place = 3;
-    progress.count = 11;
+    const Progress progress = {
+        .label = "Backup in progress...", .item = "calendar", .place = 3, .count = 11};
     EXPECT_EQ(progressText(progress, seconds(3661), 80),
               "Backup in progress... calendar (3/11) 61:01");
     EXPECT_EQ(progressText(progress, seconds(0), 10), "Backup in");
@@ -46,8 +39,7 @@ TEST(Json, WritesOneValidLineWhateverTheTextHolds) {
     EXPECT_EQ(jsonObject({{"a", "b"}, {"n", std::int64_t{-3}}}), R"({"a":"b","n":-3})");
     EXPECT_EQ(jsonObject({{"text", "\"\\\n\t\x01\x7F"}}),
               "{\"text\":\"\\\"\\\\\\n\\t\\u0001\x7F\"}");
-    EXPECT_EQ(jsonObject({{"name", "\u00E9"}}), "{\"name\":\"\u00E9\"}");
-    EXPECT_EQ(jsonObject({{"name", "a\xFF-"}}), "{\"name\":\"a\uFFFD-\"}");
+    EXPECT_EQ(jsonObject({{"name", "\u00E9\xFF-"}}), "{\"name\":\"\u00E9\uFFFD-\"}");
 }
 
 }  // namespace
