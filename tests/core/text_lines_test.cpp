@@ -6,29 +6,16 @@ namespace tarnwick {
 namespace {
 
 TEST(TextLines, SplitsAtEverySingleNewlineCharacter) {
-    struct Row {
-        std::string text;
-        std::vector<std::string> lines;
-    };
-    const Row rows[] = {
+    const std::pair<std::optional<std::string>, Lines> rows[] = {
         {"", {""}},
-        {"one", {"one"}},
-        {"one\n", {"one", ""}},
-        {"\n", {"", ""}},
-        {"one\r\ntwo", {"one", "", "two"}},
-        {"a\vb\fc\rd", {"a", "b", "c", "d"}},
-        {"a\u0085b\u2028c\u2029d", {"a", "b", "c", "d"}},
+        {"one\r\ntwo\n", {"one", "", "two", ""}},
+        {"a\vb\fc\rd\u0085e\u2028 f\u2029g", {"a", "b", "c", "d", "e", " f", "g"}},
         // Neighbours of the newline characters are none.
         {"a\tb\x0E\u0084\u0086\u2027\u202A", {"a\tb\x0E\u0084\u0086\u2027\u202A"}},
-        {std::string("a\0b\nc", 5), {std::string("a\0b", 3), "c"}},
-        {" kept \n\n kept ", {" kept ", "", " kept "}},
+        {std::nullopt, {}},
     };
-    for (const Row& row : rows) {
-        const std::optional<std::string> text = row.text;
-        const Lines lines = splitLines(text);
-        EXPECT_EQ(std::vector<std::string>(lines.begin(), lines.end()), row.lines) << row.text;
-    }
-    EXPECT_TRUE(splitLines(std::nullopt).empty());
+    for (const auto& [text, lines] : rows)
+        EXPECT_EQ(splitLines(text), lines);
 }
 
 TEST(TextLines, TakesValidUtf8Only) {
@@ -44,16 +31,13 @@ TEST(TextLines, TakesValidUtf8Only) {
 
 TEST(TextLines, JoinsWithoutANewlineAtTheEnd) {
     EXPECT_EQ(joinLines({}), "");
-    EXPECT_EQ(joinLines({""}), "");
-    EXPECT_EQ(joinLines({"one", "", "two"}), "one\n\ntwo");
-    EXPECT_EQ(joinLines({"one", ""}), "one\n");
+    EXPECT_EQ(joinLines({"one", "", "two", ""}), "one\n\ntwo\n");
 }
 
 TEST(TextLines, DropsEveryOccurrenceOfAKnownLineAndNothingElse) {
-    EXPECT_EQ(linesWithout({"a", "b", "a", "c"}, {"a"}), (Lines{"b", "c"}));
-    EXPECT_EQ(linesWithout({"x", "x", ""}, {"y"}), (Lines{"x", "x", ""}));
+    EXPECT_EQ(linesWithout({"deb", "x", "deb", "x", "", "Deb", "deb "}, {"deb", "y"}),
+              (Lines{"x", "x", "", "Deb", "deb "}));
     EXPECT_EQ(linesWithout({"", "a", ""}, {""}), (Lines{"a"}));
-    EXPECT_EQ(linesWithout({"Deb", "deb ", " deb"}, {"deb"}), (Lines{"Deb", "deb ", " deb"}));
 }
 
 }  // namespace
