@@ -39,13 +39,6 @@ check "the launcher starts the program where it is installed" \
 same "the bus starts the launcher" "Exec=/usr/bin/RootTarnwick2 --service" \
     "$(grep ^Exec "$workspace/extracted/usr/share/dbus-1/services/$id.service")"
 
-# A picture is as wide as the folder says.
-for picture in "$workspace"/extracted/usr/share/icons/hicolor/*x*/apps/*.png; do
-    folder=${picture%/apps/*}
-    same "${folder##*/} pictures are of that size" "${folder##*/}" \
-        "$(od -A n -t u1 -j 16 -N 8 "$picture" | awk '{ print $3 * 256 + $4 "x" $7 * 256 + $8 }')"
-done
-
 # Newer versions miss a home page in the description, and there is none.
 same "lintian has nothing to say" "" "$({ lintian --allow-root --display-info "$package" 2>&1 || true; } |
     grep -v ': appstream-metadata-validation-failed ' || true)"

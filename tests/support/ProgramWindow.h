@@ -7,16 +7,22 @@
 
 #include "app/AppDelegate.h"
 #include "app/MainInterface.h"
+#include "core/Log.h"
 #include "platform/controllers/NavigationController.h"
 #include "platform/windows/AlertView.h"
 #include "platform/windows/Window.h"
 #include "support/Diary.h"
-#include "support/KeptLog.h"
 #include "support/RecordingMailer.h"
 #include "support/SteppedClock.h"
 #include "ui/reveal/RevealViewController.h"
 
 namespace tarnwick::testing {
+
+class KeptLog : public Log {
+public:
+    void write(std::string_view line) override { lines += std::string(line) + "\n"; }
+    std::string lines;
+};
 
 // The program in a phone's window, over an empty folder, with a runner that only writes down.
 // Whatever QML complains about fails the test that is running.
