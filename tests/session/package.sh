@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The package is installed from the phone's own source, used and purged. What was saved stays.
+# The package is installed from the phone's own source, used by quick actions and purged. What was saved stays.
 # shellcheck source=tests/session/session_lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/session_lib.sh"
 
@@ -14,13 +14,14 @@ traces() {
 }
 
 require_programs Xvfb dbus-daemon gdbus 9wm xdotool
-install_on_phone "$phone"
-on_session "$phone" used
+install_on_phone "$phone" --model iPhone8,1
+on_session "$phone" actions
 check "the package is installed" on_phone dpkg --verify tarnwick
 check "its command saves" on_phone /usr/bin/tarnwick save sources packages notes
 was=$(saved)
+listed=$(on_phone /usr/bin/tarnwick list)
 check "it is purged" on_phone apt-get -qq --yes purge tarnwick
 same "what was saved is as it was" "$was" "$(saved)"
 same "nothing else is left" "" "$(traces)"
 check "it is installed again" on_phone apt-get -qq --yes install tarnwick
-same "and finds what was saved" 3 "$(on_phone /usr/bin/tarnwick list | grep -c .)"
+same "and finds what was saved" "$listed" "$(on_phone /usr/bin/tarnwick list)"

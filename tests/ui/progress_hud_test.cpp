@@ -147,6 +147,7 @@ public:
 TEST_F(ProgressHUDTest, HidesAfterADelayAndTellsItsDelegateWeakly) {
     Listener listener;
     ProgressHUD hud(&view);
+    hud.setParentItem(&view);
     hud.setDelegate(&listener);
     hud.show(Animated::No);
     for (const double delay : {0.5, 0.9})
