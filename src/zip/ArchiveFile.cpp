@@ -1,0 +1,192 @@
+#include "zip/ArchiveFile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <utility>
+
+namespace tarnwick {
+
+namespace {
+
+constexpr std::size_t bufferLength = std::size_t(1) << 20;  // bytes
+
+bool writeAt(int file, const std::uint8_t* data, std::size_t length, std::uint64_t offset) {
+    while (length > 0) {
+        const ssize_t count = ::pwrite(file, data, length, static_cast<off_t>(offset));
+        if (count < 0 && errno != EINTR)
+            return false;
+        const auto done = static_cast<std::size_t>(std::max<ssize_t>(count, 0));
+        data += done;
+        length -= done;
+        offset += done;
+    }
+    return true;
+}
+
+}  // namespace
+
+ArchiveFile::ArchiveFile(std::string path, OldArchive oldArchive)
+    : path_(std::move(path)), oldArchive_(oldArchive) {
+    zip_error_init(&error_);
+}
+
+zip_source_t* ArchiveFile::newSource() {
+    return zip_source_function_create(&ArchiveFile::answer, this, nullptr);
+}
+
+std::int64_t ArchiveFile::answer(void* file, void* data, std::uint64_t length,
+                                 zip_source_cmd_t command) {
+    return static_cast<ArchiveFile*>(file)->answer(data, length, command);
+}
+
+std::int64_t ArchiveFile::answer(void* data, std::uint64_t length, zip_source_cmd_t command) {
+    switch (command) {
+        case ZIP_SOURCE_SUPPORTS:
+            return ZIP_SOURCE_SUPPORTS_WRITABLE;
+        case ZIP_SOURCE_STAT:
+            return status(data);
+        case ZIP_SOURCE_OPEN:
+            return open();
+        case ZIP_SOURCE_READ:
+            return read(data, length);
+        case ZIP_SOURCE_CLOSE:
+            old_.reset();
+            return 0;
+        case ZIP_SOURCE_SEEK: {
+            const std::int64_t target =
+                zip_source_seek_compute_offset(readPosition_, oldLength_, data, length, &error_);
+            if (target >= 0)
+                readPosition_ = static_cast<std::uint64_t>(target);
+            return target < 0 ? -1 : 0;
+        }
+        case ZIP_SOURCE_TELL:
+            return static_cast<std::int64_t>(readPosition_);
+        case ZIP_SOURCE_BEGIN_WRITE:
+            return failWrite(beginWrite(), ZIP_ER_TMPOPEN);
+        case ZIP_SOURCE_WRITE:
+            return failWrite(write(static_cast<std::uint8_t*>(data), length), ZIP_ER_WRITE) < 0
+                       ? -1
+                       : static_cast<std::int64_t>(length);
+        case ZIP_SOURCE_SEEK_WRITE: {
+            const std::int64_t target =
+                zip_source_seek_compute_offset(writePosition_, newLength_, data, length, &error_);
+            if (target >= 0)
+                writePosition_ = static_cast<std::uint64_t>(target);
+            return target < 0 ? -1 : 0;
+        }
+        case ZIP_SOURCE_TELL_WRITE:
+            return static_cast<std::int64_t>(writePosition_);
+        case ZIP_SOURCE_COMMIT_WRITE:
+            return failWrite(commit(), ZIP_ER_CLOSE);
+        case ZIP_SOURCE_ROLLBACK_WRITE:
+            unfinished_.reset();
+            return 0;
+        case ZIP_SOURCE_ERROR:
+            return zip_error_to_data(&error_, data, length);
+        case ZIP_SOURCE_FREE:
+            return 0;
+        default:
+            zip_error_set(&error_, ZIP_ER_OPNOTSUPP, 0);
+            return -1;
+    }
+}
+
+std::int64_t ArchiveFile::failRead(int error) {
+    readError_ = error;
+    zip_error_set(&error_, ZIP_ER_READ, error);
+    return -1;
+}
+
+std::int64_t ArchiveFile::failWrite(bool isDone, int code) {
+    if (isDone)
+        return 0;
+    writeError_ = errno;
+    zip_error_set(&error_, code, errno);
+    return -1;
+}
+
+std::int64_t ArchiveFile::status(void* data) {
+    struct stat found = {};
+    const bool isThere = oldArchive_ == OldArchive::Kept && ::stat(path_.c_str(), &found) == 0;
+    if (!isThere && (oldArchive_ == OldArchive::PutAside || errno == ENOENT)) {
+        // libzip takes this as an archive that is to be made.
+        zip_error_set(&error_, ZIP_ER_READ, ENOENT);
+        return -1;
+    }
+    if (!isThere)
+        return failRead(errno);
+    auto* const result = static_cast<zip_stat_t*>(data);
+    zip_stat_init(result);
+    result->valid = ZIP_STAT_SIZE;
+    result->size = static_cast<std::uint64_t>(found.st_size);
+    return sizeof *result;
+}
+
+std::int64_t ArchiveFile::open() {
+    old_.emplace(::open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat found = {};
+    if (!old_->isOpen() || ::fstat(old_->number(), &found) != 0)
+        return failRead(errno);
+    if (!S_ISREG(found.st_mode))
+        return failRead(EISDIR);
+    oldLength_ = static_cast<std::uint64_t>(found.st_size);
+    readPosition_ = 0;
+    return 0;
+}
+
+std::int64_t ArchiveFile::read(void* data, std::uint64_t length) {
+    const ssize_t count = ::pread(old_->number(), data, length, static_cast<off_t>(readPosition_));
+    if (count < 0)
+        return failRead(errno);
+    readPosition_ += static_cast<std::uint64_t>(count);
+    return count;
+}
+
+bool ArchiveFile::beginWrite() {
+    unfinished_.emplace(path_);
+    buffer_.reserve(bufferLength);
+    return unfinished_->isOpen();
+}
+
+bool ArchiveFile::write(const std::uint8_t* data, std::size_t length) {
+    // libzip goes back to complete the header of an entry.
+    if (writePosition_ < bufferStart_ || writePosition_ > bufferStart_ + buffer_.size()) {
+        if (!writeOut())
+            return false;
+        bufferStart_ = writePosition_;
+    }
+    const auto offset = static_cast<std::size_t>(writePosition_ - bufferStart_);
+    buffer_.resize(std::max(buffer_.size(), offset + length));
+    std::copy_n(data, length, buffer_.begin() + static_cast<std::ptrdiff_t>(offset));
+    writePosition_ += length;
+    newLength_ = std::max(newLength_, writePosition_);
+    return buffer_.size() < bufferLength || writeOut();
+}
+
+bool ArchiveFile::writeOut() {
+    if (!writeAt(unfinished_->number(), buffer_.data(), buffer_.size(), bufferStart_))
+        return false;
+    // The disk begins now, rather than when all is there.
+    if (buffer_.size() >= bufferLength)
+        ::sync_file_range(unfinished_->number(), static_cast<off_t>(bufferStart_),
+                          static_cast<off_t>(buffer_.size()), SYNC_FILE_RANGE_WRITE);
+    bufferStart_ += buffer_.size();
+    buffer_.clear();
+    return true;
+}
+
+bool ArchiveFile::commit() {
+    const auto oldName =
+        oldArchive_ == OldArchive::PutAside ? std::optional(path_ + ".damaged") : std::nullopt;
+    const bool isDone = writeOut() && finish_(unfinished_->number(), newLength_) &&
+                        unfinished_->putInPlace(oldName);
+    if (isDone)
+        unfinished_.reset();
+    return isDone;
+}
+
+}  // namespace tarnwick

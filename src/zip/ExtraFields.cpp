@@ -1,0 +1,61 @@
+#include "zip/ExtraFields.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace tarnwick {
+
+namespace {
+
+constexpr std::uint16_t timesId = 0x5455;  // "UT"
+constexpr std::uint16_t ownerId = 0x7875;  // "ux"
+
+void append(std::vector<std::uint8_t>& field, std::uint32_t number) {
+    for (int shift = 0; shift < 32; shift += 8)
+        field.push_back(static_cast<std::uint8_t>(number >> shift));
+}
+
+ExtraField timesOf(const struct stat& status) {
+    constexpr std::uint8_t modificationAndAccess = 3;
+    ExtraField field = {.id = timesId};
+    if (status.st_mtime < std::numeric_limits<std::int32_t>::min() ||
+        status.st_mtime > std::numeric_limits<std::uint32_t>::max())
+        return field;
+    field.central = {modificationAndAccess};
+    append(field.central, static_cast<std::uint32_t>(status.st_mtime));
+    field.local = field.central;
+    append(field.local, static_cast<std::uint32_t>(status.st_atime));
+    return field;
+}
+
+ExtraField ownerOf(const struct stat& status) {
+    constexpr std::uint8_t version = 1;
+    ExtraField field = {.id = ownerId, .local = {version}};
+    for (const std::uint32_t id : {status.st_uid, status.st_gid}) {
+        field.local.push_back(sizeof id);
+        append(field.local, id);
+    }
+    field.central = field.local;
+    return field;
+}
+
+std::time_t localTime(std::tm time) {
+    time.tm_isdst = -1;
+    return std::mktime(&time);
+}
+
+}  // namespace
+
+std::vector<ExtraField> extraFieldsOf(const struct stat& status) {
+    return {timesOf(status), ownerOf(status)};
+}
+
+std::time_t nearestArchiveTime(std::time_t time) {
+    static const std::time_t first = localTime({.tm_mday = 1, .tm_mon = 0, .tm_year = 80});
+    static const std::time_t last = localTime(
+        {.tm_sec = 58, .tm_min = 59, .tm_hour = 23, .tm_mday = 31, .tm_mon = 11, .tm_year = 207});
+    // Upwards, as the system's zip does.
+    return std::clamp(time + time % 2, first, last);
+}
+
+}  // namespace tarnwick
