@@ -1,14 +1,17 @@
 #!/usr/bin/env bash
-# A large save is interrupted, and a second run meets one under way.
+# A save is interrupted, and a second run meets one under way. The lock on the folder of the archives, which zip waits for, holds
+# the save up as long as a test wants.
 # shellcheck source=tests/device/run_lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/run_lib.sh"
 
-# Runs the script on the phone, with the save's number in $save, once zip is at work on the pictures.
+# Runs the script on the phone, with the save's number in $save, while zip waits to save the pictures until `flock -u 8`.
 during_save() {
     on_phone bash -c '
-        tarnwick save all >/dev/null 2>&1 & save=$!
+        exec 8<"$1"
+        flock 8
+        tarnwick save photos >/dev/null 2>&1 8<&- & save=$!
         for ((attempt = 0; attempt < 2000; attempt++)); do
-            ! { killall -q -0 zip && test -d "$1/DCIM"; } || break
+            ! killall -q -0 zip || break
             sleep 0.01
         done
         killall -q -0 zip || echo "zip never came"
@@ -19,7 +22,7 @@ pictures() {
     on_phone sha256sum "$library/DCIM.zip"
 }
 
-device new "$phone" --photos 30
+device new "$phone"
 on_phone tarnwick save photos >/dev/null
 before=$(pictures)
 for signal in INT TERM HUP; do
@@ -33,18 +36,21 @@ same "a second run says so, looking goes on" "tarnwick: another run is under way
 second 3
 list 0
 status 0" "$(during_save 'tarnwick save notes; echo "second $?"
-    tarnwick list >/dev/null; echo "list $?"; wait $save; echo "status $?"' 2>&1)"
+    tarnwick list >/dev/null; echo "list $?"; flock -u 8; wait $save; echo "status $?"' 2>&1)"
 same "the first one went on to its end" "" "$(not_good)"
 
 # A job of an interactive shell, as only such a shell continues what it stopped.
 suspended() {
     on_phone bash -c 'cat >/tmp/jobs <<"JOBS"
 set -m
-tarnwick save photos >/tmp/result 2>&1 &
+exec 8<'"$library"'
+flock 8
+tarnwick save photos >/tmp/result 2>&1 8<&- &
 until killall -q -0 zip; do sleep 0.01; done
 kill -TSTP $!
 until [[ $(ps -o stat= -C tarnwick,zip | grep -vc "^T") == 0 ]]; do sleep 0.01; done
 echo "stopped"
+flock -u 8
 fg >/dev/null
 echo "status $?"
 JOBS

@@ -21,8 +21,9 @@ same "every file is in its place" "$(
         echo "-rwsr-xr-x root/root /usr/bin/RootTarnwick2"
         echo "-rwxr-xr-x root/root /usr/bin/tarnwick"
         echo "-rwxr-xr-x root/root /usr/libexec/tarnwick/RootTarnwick2"
+        echo "-rwxr-xr-x root/root /usr/libexec/tarnwick/bin/zip"
         ordinary "applications/$id.desktop" "dbus-1/services/$id.service" "metainfo/$id.metainfo.xml" \
-            doc/tarnwick/{changelog.gz,copyright} lintian/overrides/tarnwick man/man1/{RootTarnwick2,tarnwick}.1.gz \
+            doc/tarnwick/{changelog.gz,copyright} lintian/overrides/tarnwick man/man1/{RootTarnwick2,tarnwick,tarnwick-zip}.1.gz \
             bash-completion/completions/{RootTarnwick2,tarnwick} fish/vendor_completions.d/{RootTarnwick2,tarnwick}.fish \
             zsh/vendor-completions/_{RootTarnwick2,tarnwick} \
             icons/hicolor/{16x16,22x22,24x24,32x32,48x48,64x64,128x128,256x256,512x512}/apps/"$id.png" \

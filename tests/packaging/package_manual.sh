@@ -10,7 +10,7 @@ warnings() {
     mandoc -T lint -W warning "$1" || true
 }
 
-for page in tarnwick RootTarnwick2; do
+for page in tarnwick RootTarnwick2 tarnwick-zip; do
     same "$page(1) is set without a warning" "" "$(warnings "$build/packaging/man/$page.1")"
 done
 # What the help lists, the page lists too.
