@@ -1,9 +1,9 @@
 #include "zip/ArchiveAttempt.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstring>
 #include <thread>
-#include <unordered_set>
 
 #include "zip/ExtraFields.h"
 #include "zip/PlainNames.h"
@@ -12,10 +12,31 @@ namespace tarnwick {
 
 namespace {
 
-std::uint32_t attributesOf(const struct stat& status) {
+std::uint32_t attributesOf(mode_t mode) {
     constexpr std::uint32_t readOnly = 0x01, folder = 0x10;
-    return std::uint32_t(status.st_mode) << 16 | (S_ISDIR(status.st_mode) ? folder : 0) |
-           ((status.st_mode & S_IWUSR) != 0 ? 0 : readOnly);
+    return std::uint32_t(mode) << 16 | (S_ISDIR(mode) ? folder : 0) |
+           ((mode & S_IWUSR) != 0 ? 0 : readOnly);
+}
+
+// Our own lack of means, rather than something about the file.
+bool isLackOfMeans(int error) {
+    return error == EMFILE || error == ENFILE || error == ENOMEM;
+}
+
+// What libzip says of an archive that is not well-formed.
+bool isDamage(int code) {
+    switch (code) {
+        case ZIP_ER_NOZIP:
+        case ZIP_ER_INCONS:
+        case ZIP_ER_MULTIDISK:
+        case ZIP_ER_EOF:
+        case ZIP_ER_SEEK:
+        case ZIP_ER_INVAL:
+        case ZIP_ER_READ:
+            return true;
+        default:
+            return false;
+    }
 }
 
 bool isAscii(std::string_view text) {
@@ -39,35 +60,46 @@ bool replaceExtraField(zip_t* archive, std::uint64_t index, const ExtraField& fi
 }  // namespace
 
 ArchiveAttempt::ArchiveAttempt(const std::string& path, ArchiveFile::OldArchive oldArchive,
-                               const std::vector<TreeEntry>& tree)
-    : file_(path, oldArchive) {
+                               int newFile, const std::vector<TreeEntry>& tree)
+    : newFile_(newFile), file_(path, oldArchive, newFile) {
     for (const TreeEntry& entry : tree)
         entries_.emplace_back(entry);
 }
 
 ArchiveAttempt::Result ArchiveAttempt::run() {
-    zip_error_t error = {};
-    if (!open(error))
-        return reasonOf(error);
-    if (!addEntries() || !writeAll())
-        return reasonOf(*zip_get_error(archive_.get()));
-    return Result::Done;
+    if (const auto result = open(); result != Result::Done)
+        return result;
+    if (!addEntries())
+        return failure(*zip_get_error(archive_.get()));
+    int commentLength = 0;
+    zip_get_archive_comment(archive_.get(), &commentLength, ZIP_FL_ENC_RAW);
+    if (!writeAll())
+        return failure(*zip_get_error(archive_.get()));
+    if (declareAddedNamesPlain(static_cast<std::uint64_t>(std::max(commentLength, 0))))
+        return Result::Done;
+    reason_ = std::strerror(errno);
+    return Result::CannotWrite;
 }
 
-bool ArchiveAttempt::open(zip_error_t& error) {
+ArchiveAttempt::Result ArchiveAttempt::open() {
+    zip_error_t error = {};
+    zip_error_init(&error);
     zip_source_t* const source = file_.newSource();
     archive_.reset(zip_open_from_source(source, ZIP_CREATE, &error));
     if (!archive_)
         zip_source_free(source);
-    return archive_ != nullptr;
+    const Result result = archive_ ? Result::Done : failure(error);
+    zip_error_fini(&error);
+    return result;
 }
 
 std::unordered_map<std::string_view, std::uint64_t> ArchiveAttempt::indicesByName() const {
+    // Of several entries of the same name, the last one is what is unpacked.
     std::unordered_map<std::string_view, std::uint64_t> indices;
     const auto count = static_cast<std::uint64_t>(zip_get_num_entries(archive_.get(), 0));
     for (std::uint64_t index = 0; index < count; ++index) {
         if (const char* name = zip_get_name(archive_.get(), index, ZIP_FL_ENC_RAW))
-            indices.emplace(name, index);
+            indices[name] = index;
     }
     return indices;
 }
@@ -78,39 +110,49 @@ bool ArchiveAttempt::addEntries() {
         Addition addition = {.data = &data};
         if (const auto old = indices.find(data.entry().name()); old != indices.end())
             addition = {old->second, true, &data};
-        if (!putData(addition) || !describe(addition))
+        if (!putData(addition)) {
+            if (zip_error_code_zip(zip_get_error(archive_.get())) != ZIP_ER_EXISTS)
+                return false;
+            refused_.insert(data.entry().path);
+            continue;
+        }
+        if (!describe(addition))
             return false;
         additions_.push_back(addition);
     }
     std::ranges::sort(additions_, {}, &Addition::index);
-    return true;
+    return refused_.empty();
 }
 
+// libzip refuses a name that is the same as another one if both are read in the character set of
+// early computers.
 bool ArchiveAttempt::putData(Addition& addition) {
     zip_source_t* const source = addition.data->newSource();
+    const std::string name(addition.data->entry().name());
+    bool isDone = false;
     if (addition.isUpdate) {
-        if (zip_file_replace(archive_.get(), addition.index, source, 0) == 0)
-            return true;
+        isDone = zip_file_replace(archive_.get(), addition.index, source, 0) == 0;
     } else {
-        const std::string name(addition.data->entry().name());
         const std::int64_t index = zip_file_add(archive_.get(), name.c_str(), source, 0);
         addition.index = static_cast<std::uint64_t>(index);
-        if (index >= 0)
-            return true;
+        isDone = index >= 0;
     }
-    zip_source_free(source);
-    return false;
+    if (!isDone)
+        zip_source_free(source);
+    return isDone;
 }
 
 bool ArchiveAttempt::describe(const Addition& addition) {
-    const struct stat& status = addition.data->entry().status;
+    const TreeEntry& entry = addition.data->entry();
     zip_t* const archive = archive_.get();
-    return zip_file_set_external_attributes(archive, addition.index, 0, ZIP_OPSYS_UNIX,
-                                            attributesOf(status)) == 0 &&
-           zip_file_set_mtime(archive, addition.index, nearestArchiveTime(status.st_mtime), 0) ==
-               0 &&
-           std::ranges::all_of(extraFieldsOf(status), [&](const ExtraField& field) {
-               return replaceExtraField(archive, addition.index, field);
+    const std::uint64_t index = addition.index;
+    return zip_file_set_external_attributes(archive, index, 0, ZIP_OPSYS_UNIX,
+                                            attributesOf(entry.mode)) == 0 &&
+           zip_file_set_mtime(archive, index, nearestArchiveTime(entry.modified), 0) == 0 &&
+           // The old version may have been encrypted.
+           zip_file_set_encryption(archive, index, ZIP_EM_NONE, nullptr) == 0 &&
+           std::ranges::all_of(extraFieldsOf(entry), [&](const ExtraField& field) {
+               return replaceExtraField(archive, index, field);
            });
 }
 
@@ -123,8 +165,6 @@ bool ArchiveAttempt::writeAll() {
     CompressedFiles compressed(files, std::thread::hardware_concurrency());
     for (EntryData& data : entries_)
         data.take(compressed);
-    file_.finishWith(
-        [this](int file, std::uint64_t length) { return declareAddedNamesPlain(file, length); });
     if (zip_close(archive_.get()) != 0)
         return false;
     // It is closed.
@@ -132,38 +172,40 @@ bool ArchiveAttempt::writeAll() {
     return true;
 }
 
-bool ArchiveAttempt::declareAddedNamesPlain(int file, std::uint64_t length) const {
+bool ArchiveAttempt::declareAddedNamesPlain(std::uint64_t commentLength) const {
     std::unordered_set<std::string_view> names;
     for (const EntryData& data : entries_) {
         if (!isAscii(data.entry().name()))
             names.insert(data.entry().name());
     }
-    int commentLength = 0;
-    zip_get_archive_comment(archive_.get(), &commentLength, ZIP_FL_ENC_RAW);
-    return names.empty() ||
-           declareNamesPlain(file, length, static_cast<std::uint64_t>(std::max(commentLength, 0)),
-                             [&](std::string_view name) { return names.contains(name); });
+    const auto accepts = [&](std::string_view name) { return names.contains(name); };
+    return names.empty() || declareNamesPlain(newFile_, file_.newLength(), commentLength, accepts);
 }
 
-ArchiveAttempt::Result ArchiveAttempt::reasonOf(const zip_error_t& error) const {
-    if (std::ranges::any_of(entries_, &EntryData::isLost))
-        return Result::FilesLost;
-    if (error.zip_err == ZIP_ER_TMPOPEN)
-        return Result::CannotCreate;
-    if (file_.writeError() != 0 || error.zip_err == ZIP_ER_MEMORY)
-        return Result::CannotWrite;
-    return file_.readError() != 0 ? Result::CannotRead : Result::OldArchiveDamaged;
-}
-
-int ArchiveAttempt::error() const {
-    return file_.writeError() != 0 ? file_.writeError() : file_.readError();
-}
-
-std::vector<std::string> ArchiveAttempt::lostFiles() const {
-    std::vector<std::string> paths;
+ArchiveAttempt::Result ArchiveAttempt::failure(zip_error_t& error) {
+    int readError = file_.readError();
     for (const EntryData& data : entries_) {
-        if (data.isLost())
-            paths.push_back(data.entry().path);
+        if (isLackOfMeans(data.readError()))
+            readError = data.readError();
+    }
+    reason_ = zip_error_strerror(&error);
+    if (file_.writeError() != 0)
+        return Result::CannotWrite;
+    if (readError != 0) {
+        reason_ = std::strerror(readError);
+        return Result::CannotRead;
+    }
+    if (!lostFiles().empty())
+        return Result::FilesLost;
+    return file_.hasOld() && isDamage(zip_error_code_zip(&error)) ? Result::OldArchiveDamaged
+                                                                  : Result::CannotWrite;
+}
+
+std::unordered_set<std::string> ArchiveAttempt::lostFiles() const {
+    std::unordered_set<std::string> paths = refused_;
+    for (const EntryData& data : entries_) {
+        if (data.readError() != 0)
+            paths.insert(data.entry().path);
     }
     return paths;
 }

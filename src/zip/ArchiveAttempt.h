@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "zip/ArchiveFile.h"
@@ -16,22 +17,22 @@
 
 namespace tarnwick {
 
-// One try to write an archive with all entries of a tree. Unless it is done, the archive that was
-// there stands as it was.
+// One try to write a new archive with all entries of a tree.
 class ArchiveAttempt {
 public:
-    enum class Result { Done, FilesLost, OldArchiveDamaged, CannotRead, CannotCreate, CannotWrite };
+    enum class Result { Done, FilesLost, OldArchiveDamaged, CannotRead, CannotWrite };
 
-    // The tree must outlive it.
-    ArchiveAttempt(const std::string& path, ArchiveFile::OldArchive oldArchive,
+    // Keeps what is in the archive at the path, or ignores it; writes to the new file. The tree
+    // must outlive it.
+    ArchiveAttempt(const std::string& path, ArchiveFile::OldArchive oldArchive, int newFile,
                    const std::vector<TreeEntry>& tree);
 
     Result run();
 
-    // The reason, if it can be known.
-    int error() const;
+    // After CannotRead and CannotWrite.
+    const std::string& reason() const { return reason_; }
     // The files that could not be read, after FilesLost.
-    std::vector<std::string> lostFiles() const;
+    std::unordered_set<std::string> lostFiles() const;
     // Reports what is in the archive now, after Done.
     void tell(ZipReport& report) const;
 
@@ -45,18 +46,21 @@ private:
         EntryData* data = nullptr;
     };
 
-    bool open(zip_error_t& error);
+    Result open();
     std::unordered_map<std::string_view, std::uint64_t> indicesByName() const;
     bool addEntries();
     bool putData(Addition& addition);
     bool describe(const Addition& addition);
     bool writeAll();
-    bool declareAddedNamesPlain(int file, std::uint64_t length) const;
-    Result reasonOf(const zip_error_t& error) const;
+    bool declareAddedNamesPlain(std::uint64_t commentLength) const;
+    Result failure(zip_error_t& error);
 
+    const int newFile_;
     ArchiveFile file_;
     std::deque<EntryData> entries_;    // libzip keeps their addresses
     std::vector<Addition> additions_;  // in the order of the archive
+    std::unordered_set<std::string> refused_;
+    std::string reason_;
     std::unique_ptr<zip_t, Discard> archive_;
 };
 

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <utility>
+#include <new>
 
 namespace tarnwick {
 
@@ -29,18 +29,41 @@ bool writeAt(int file, const std::uint8_t* data, std::size_t length, std::uint64
 
 }  // namespace
 
-ArchiveFile::ArchiveFile(std::string path, OldArchive oldArchive)
-    : path_(std::move(path)), oldArchive_(oldArchive) {
+ArchiveFile::ArchiveFile(const std::string& path, OldArchive oldArchive, int newFile)
+    : newFile_(newFile) {
     zip_error_init(&error_);
+    if (oldArchive == OldArchive::Kept)
+        openOld(path);
+}
+
+// A link would let its owner have us read any file.
+void ArchiveFile::openOld(const std::string& path) {
+    old_.emplace(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW));
+    struct stat found = {};
+    if (!old_->isOpen() || ::fstat(old_->number(), &found) != 0)
+        readError_ = errno;
+    else if (!S_ISREG(found.st_mode))
+        readError_ = EISDIR;
+    oldLength_ = static_cast<std::uint64_t>(found.st_size);
+    if (readError_ == ENOENT) {
+        readError_ = 0;
+        old_.reset();
+    }
 }
 
 zip_source_t* ArchiveFile::newSource() {
     return zip_source_function_create(&ArchiveFile::answer, this, nullptr);
 }
 
+// No exception may pass through libzip.
 std::int64_t ArchiveFile::answer(void* file, void* data, std::uint64_t length,
                                  zip_source_cmd_t command) {
-    return static_cast<ArchiveFile*>(file)->answer(data, length, command);
+    auto* const self = static_cast<ArchiveFile*>(file);
+    try {
+        return self->answer(data, length, command);
+    } catch (const std::bad_alloc&) {
+        return self->failRead(ENOMEM);
+    }
 }
 
 std::int64_t ArchiveFile::answer(void* data, std::uint64_t length, zip_source_cmd_t command) {
@@ -50,11 +73,11 @@ std::int64_t ArchiveFile::answer(void* data, std::uint64_t length, zip_source_cm
         case ZIP_SOURCE_STAT:
             return status(data);
         case ZIP_SOURCE_OPEN:
-            return open();
+            readPosition_ = 0;
+            return 0;
         case ZIP_SOURCE_READ:
             return read(data, length);
         case ZIP_SOURCE_CLOSE:
-            old_.reset();
             return 0;
         case ZIP_SOURCE_SEEK: {
             const std::int64_t target =
@@ -66,9 +89,9 @@ std::int64_t ArchiveFile::answer(void* data, std::uint64_t length, zip_source_cm
         case ZIP_SOURCE_TELL:
             return static_cast<std::int64_t>(readPosition_);
         case ZIP_SOURCE_BEGIN_WRITE:
-            return failWrite(beginWrite(), ZIP_ER_TMPOPEN);
+            return failWrite(beginWrite());
         case ZIP_SOURCE_WRITE:
-            return failWrite(write(static_cast<std::uint8_t*>(data), length), ZIP_ER_WRITE) < 0
+            return failWrite(write(static_cast<std::uint8_t*>(data), length)) < 0
                        ? -1
                        : static_cast<std::int64_t>(length);
         case ZIP_SOURCE_SEEK_WRITE: {
@@ -81,9 +104,8 @@ std::int64_t ArchiveFile::answer(void* data, std::uint64_t length, zip_source_cm
         case ZIP_SOURCE_TELL_WRITE:
             return static_cast<std::int64_t>(writePosition_);
         case ZIP_SOURCE_COMMIT_WRITE:
-            return failWrite(commit(), ZIP_ER_CLOSE);
+            return failWrite(writeOut());
         case ZIP_SOURCE_ROLLBACK_WRITE:
-            unfinished_.reset();
             return 0;
         case ZIP_SOURCE_ERROR:
             return zip_error_to_data(&error_, data, length);
@@ -101,41 +123,25 @@ std::int64_t ArchiveFile::failRead(int error) {
     return -1;
 }
 
-std::int64_t ArchiveFile::failWrite(bool isDone, int code) {
+std::int64_t ArchiveFile::failWrite(bool isDone) {
     if (isDone)
         return 0;
     writeError_ = errno;
-    zip_error_set(&error_, code, errno);
+    zip_error_set(&error_, ZIP_ER_WRITE, writeError_);
     return -1;
 }
 
 std::int64_t ArchiveFile::status(void* data) {
-    struct stat found = {};
-    const bool isThere = oldArchive_ == OldArchive::Kept && ::stat(path_.c_str(), &found) == 0;
-    if (!isThere && (oldArchive_ == OldArchive::PutAside || errno == ENOENT)) {
-        // libzip takes this as an archive that is to be made.
-        zip_error_set(&error_, ZIP_ER_READ, ENOENT);
+    if (readError_ != 0 || !old_) {
+        // libzip makes a new archive where there is none.
+        zip_error_set(&error_, ZIP_ER_READ, old_ ? readError_ : ENOENT);
         return -1;
     }
-    if (!isThere)
-        return failRead(errno);
     auto* const result = static_cast<zip_stat_t*>(data);
     zip_stat_init(result);
     result->valid = ZIP_STAT_SIZE;
-    result->size = static_cast<std::uint64_t>(found.st_size);
+    result->size = oldLength_;
     return sizeof *result;
-}
-
-std::int64_t ArchiveFile::open() {
-    old_.emplace(::open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    struct stat found = {};
-    if (!old_->isOpen() || ::fstat(old_->number(), &found) != 0)
-        return failRead(errno);
-    if (!S_ISREG(found.st_mode))
-        return failRead(EISDIR);
-    oldLength_ = static_cast<std::uint64_t>(found.st_size);
-    readPosition_ = 0;
-    return 0;
 }
 
 std::int64_t ArchiveFile::read(void* data, std::uint64_t length) {
@@ -147,9 +153,8 @@ std::int64_t ArchiveFile::read(void* data, std::uint64_t length) {
 }
 
 bool ArchiveFile::beginWrite() {
-    unfinished_.emplace(path_);
     buffer_.reserve(bufferLength);
-    return unfinished_->isOpen();
+    return ::ftruncate(newFile_, 0) == 0;
 }
 
 bool ArchiveFile::write(const std::uint8_t* data, std::size_t length) {
@@ -168,25 +173,15 @@ bool ArchiveFile::write(const std::uint8_t* data, std::size_t length) {
 }
 
 bool ArchiveFile::writeOut() {
-    if (!writeAt(unfinished_->number(), buffer_.data(), buffer_.size(), bufferStart_))
+    if (!writeAt(newFile_, buffer_.data(), buffer_.size(), bufferStart_))
         return false;
     // The disk begins now, rather than when all is there.
     if (buffer_.size() >= bufferLength)
-        ::sync_file_range(unfinished_->number(), static_cast<off_t>(bufferStart_),
+        ::sync_file_range(newFile_, static_cast<off_t>(bufferStart_),
                           static_cast<off_t>(buffer_.size()), SYNC_FILE_RANGE_WRITE);
     bufferStart_ += buffer_.size();
     buffer_.clear();
     return true;
-}
-
-bool ArchiveFile::commit() {
-    const auto oldName =
-        oldArchive_ == OldArchive::PutAside ? std::optional(path_ + ".damaged") : std::nullopt;
-    const bool isDone = writeOut() && finish_(unfinished_->number(), newLength_) &&
-                        unfinished_->putInPlace(oldName);
-    if (isDone)
-        unfinished_.reset();
-    return isDone;
 }
 
 }  // namespace tarnwick

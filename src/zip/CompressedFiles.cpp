@@ -6,10 +6,12 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <system_error>
+#include <exception>
+#include <new>
 #include <utility>
 
 #include "core/Descriptor.h"
+#include "zip/HeldSignals.h"
 
 namespace tarnwick {
 
@@ -48,7 +50,11 @@ public:
         return error_;
     }
     int number() const { return file_->number(); }
-    bool hasOtherSize() const { return hasOtherSize_; }
+    bool hasOtherSize() const {
+        struct stat status = {};
+        return ::fstat(number(), &status) != 0 ||
+               static_cast<std::uint64_t>(status.st_size) != entry_.size;
+    }
     // Of a file of several blocks.
     bool isDeflated() const { return isDeflated_; }
 
@@ -62,8 +68,7 @@ private:
             error_ = errno;
         else if (!S_ISREG(status.st_mode))
             error_ = ENOENT;
-        hasOtherSize_ = status.st_size != entry_.status.st_size;
-        isDeflated_ = error_ == 0 && entry_.size() > blockLength && samplesShrink(deflater);
+        isDeflated_ = error_ == 0 && entry_.size > blockLength && samplesShrink(deflater);
     }
 
     // How a long file goes into the archive must be known before its first block is there.
@@ -73,8 +78,7 @@ private:
         const auto samples = newBuffer(), output = newBuffer();
         std::size_t length = 0;
         for (std::size_t sample = 0; sample < sampleCount; ++sample) {
-            const std::uint64_t offset =
-                (entry_.size() - sampleLength) / (sampleCount - 1) * sample;
+            const std::uint64_t offset = (entry_.size - sampleLength) / (sampleCount - 1) * sample;
             length += readAt(number(), {samples.get() + length, sampleLength}, offset).value_or(0);
         }
         return deflater
@@ -86,21 +90,22 @@ private:
     std::once_flag isOpened_;
     std::optional<Descriptor> file_;
     int error_ = 0;
-    bool hasOtherSize_ = false;
     bool isDeflated_ = false;
 };
 
 struct CompressedFiles::Job {
+    Slot& slot;
     std::shared_ptr<SharedFile> file;
     std::uint64_t offset = 0;
     std::size_t length = 0;
     bool isLast = true;
 
-    void run(Worker& worker, Piece& piece) const {
+    void run(Worker& worker) const {
+        Piece& piece = slot.piece;
         if (!piece.data)
             piece.data = newBuffer();
-        piece = {
-            .data = std::move(piece.data), .isLast = isLast, .error = file->open(worker.deflater)};
+        piece = {.data = std::move(piece.data), .isLast = isLast};
+        piece.error = file->open(worker.deflater);
         if (piece.error != 0)
             return;
         const auto count = readAt(file->number(), {worker.input.get(), length}, offset);
@@ -109,7 +114,7 @@ struct CompressedFiles::Job {
             return;
         }
         piece.rawLength = *count;
-        piece.hasChanged = *count < length || file->hasOtherSize();
+        piece.hasChanged = *count < length || (isLast && file->hasOtherSize());
         piece.crc = ::crc32_gzip_refl(0, worker.input.get(), piece.rawLength);
         compress(worker, piece);
     }
@@ -134,21 +139,27 @@ struct CompressedFiles::Job {
     }
 };
 
-CompressedFiles::CompressedFiles(const std::vector<const TreeEntry*>& files, unsigned cores) {
-    for (const TreeEntry* file : files)
-        addJobs(*file);
-    startThreads(threadsFor(cores));
-}
+CompressedFiles::Worker::Worker() : input(newBuffer()) {}
 
-std::size_t CompressedFiles::threadsFor(unsigned cores) const {
-    return size_ < blockLength ? 0 : std::min<std::size_t>(std::max(cores, 1U), jobs_.size());
+CompressedFiles::CompressedFiles(std::vector<const TreeEntry*> files, unsigned cores)
+    : files_(std::move(files)) {
+    constexpr std::size_t mostThreads = 16;  // bounds the memory
+    std::uint64_t size = 0;
+    for (const TreeEntry* file : files_)
+        size += file->size;
+    if (size >= blockLength)
+        startThreads(std::clamp<std::size_t>(cores, 1, mostThreads));
 }
 
 void CompressedFiles::startThreads(std::size_t count) {
+    // Signals are for the main thread.
+    const HeldSignals held;
     try {
-        while (threads_.size() < count)
-            threads_.emplace_back([this] { work(); });
-    } catch (const std::system_error&) {
+        while (threads_.size() < count) {
+            Worker& worker = workers_.emplace_back();
+            threads_.emplace_back([this, &worker] { work(worker); });
+        }
+    } catch (const std::exception&) {
         // Fewer will do, or none.
     }
 }
@@ -163,49 +174,62 @@ CompressedFiles::~CompressedFiles() {
         thread.join();
 }
 
-void CompressedFiles::addJobs(const TreeEntry& entry) {
-    const auto file = std::make_shared<SharedFile>(entry);
-    size_ += entry.size();
-    std::uint64_t offset = 0;
-    for (; entry.size() - offset > blockLength; offset += blockLength)
-        jobs_.push_back({file, offset, blockLength, false});
-    jobs_.push_back({file, offset, static_cast<std::size_t>(entry.size() - offset), true});
-}
-
-void CompressedFiles::work() {
-    Worker worker = {.input = newBuffer()};
-    while (const auto job = nextJob()) {
-        Slot& slot = slotOf(*job);
-        jobs_[*job].run(worker, slot.piece);
-        jobs_[*job].file.reset();
+void CompressedFiles::work(Worker& worker) {
+    try {
+        while (doNext(worker)) {
+        }
+    } catch (const std::bad_alloc&) {
         {
             const std::lock_guard lock(mutex_);
-            slot.isReady = true;
+            isOutOfMemory_ = true;
         }
         isReady_.notify_one();
     }
 }
 
-std::optional<std::size_t> CompressedFiles::nextJob() {
+bool CompressedFiles::doNext(Worker& worker) {
+    const auto job = nextJob();
+    if (!job)
+        return false;
+    job->run(worker);
+    {
+        const std::lock_guard lock(mutex_);
+        job->slot.isReady = true;
+    }
+    isReady_.notify_one();
+    return true;
+}
+
+std::optional<CompressedFiles::Job> CompressedFiles::nextJob() {
     std::unique_lock lock(mutex_);
     isFree_.wait(lock, [this] {
-        return isStopped_ || begun_ == jobs_.size() || begun_ < taken_ + slotCount;
+        return isStopped_ || nextFile_ == files_.size() || begun_ < taken_ + slotCount;
     });
-    if (isStopped_ || begun_ == jobs_.size())
+    if (isStopped_ || nextFile_ == files_.size())
         return std::nullopt;
-    return begun_++;
+    const TreeEntry& entry = *files_[nextFile_];
+    if (!openFile_)
+        openFile_ = std::make_shared<SharedFile>(entry);
+    const std::uint64_t left = entry.size - nextOffset_;
+    Job job = {slotOf(begun_++), openFile_, nextOffset_, std::min<std::uint64_t>(left, blockLength),
+               left <= blockLength};
+    nextOffset_ += job.length;
+    if (job.isLast) {
+        ++nextFile_;
+        nextOffset_ = 0;
+        openFile_.reset();
+    }
+    return job;
 }
 
 const Piece& CompressedFiles::front() {
     Slot& slot = slotOf(taken_);
-    if (threads_.empty() && !slot.isReady) {
-        if (!ownWorker_)
-            ownWorker_.emplace().input = newBuffer();
-        jobs_[taken_].run(*ownWorker_, slot.piece);
-        slot.isReady = true;
-    }
+    if (threads_.empty() && !slot.isReady)
+        doNext(workers_.empty() ? workers_.emplace_back() : workers_.front());
     std::unique_lock lock(mutex_);
-    isReady_.wait(lock, [&] { return slot.isReady; });
+    isReady_.wait(lock, [&] { return slot.isReady || isOutOfMemory_; });
+    if (!slot.isReady)
+        throw std::bad_alloc();
     return slot.piece;
 }
 

@@ -2,6 +2,7 @@
 
 #include <condition_variable>
 #include <cstdint>
+#include <deque>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -30,13 +31,13 @@ struct Piece {
 class CompressedFiles {
 public:
     // Begins at once. The files must outlive it.
-    CompressedFiles(const std::vector<const TreeEntry*>& files, unsigned cores);
+    CompressedFiles(std::vector<const TreeEntry*> files, unsigned cores);
     // Drops what was not taken.
     ~CompressedFiles();
     CompressedFiles(const CompressedFiles&) = delete;
     CompressedFiles& operator=(const CompressedFiles&) = delete;
 
-    // The next piece, valid until `pop`. Waits for it; a piece must be left.
+    // The next piece, valid until `pop`. Waits for it; a piece must be left. Throws bad_alloc.
     const Piece& front();
     void pop();
 
@@ -45,6 +46,7 @@ private:
     struct Job;
     // What a thread needs to compress.
     struct Worker {
+        Worker();
         Deflater deflater;
         std::unique_ptr<std::uint8_t[]> input;
     };
@@ -54,25 +56,29 @@ private:
     };
     static constexpr std::size_t slotCount = 64;
 
-    void addJobs(const TreeEntry& entry);
-    std::size_t threadsFor(unsigned cores) const;
     void startThreads(std::size_t count);
-    void work();
-    std::optional<std::size_t> nextJob();
+    void work(Worker& worker);
+    bool doNext(Worker& worker);
+    std::optional<Job> nextJob();
     Slot& slotOf(std::size_t job) { return slots_[job % slotCount]; }
 
-    std::vector<Job> jobs_;
-    std::uint64_t size_ = 0;  // of all files, in bytes
+    const std::vector<const TreeEntry*> files_;
     Slot slots_[slotCount];
-    std::size_t begun_ = 0;  // jobs
-    std::size_t taken_ = 0;  // jobs
-    bool isStopped_ = false;
     std::mutex mutex_;
     std::condition_variable isReady_;
     std::condition_variable isFree_;
+
+    // Where the next job begins.
+    std::size_t nextFile_ = 0;
+    std::uint64_t nextOffset_ = 0;
+    std::shared_ptr<SharedFile> openFile_;
+
+    std::size_t begun_ = 0;  // jobs
+    std::size_t taken_ = 0;  // jobs
+    bool isStopped_ = false;
+    bool isOutOfMemory_ = false;
+    std::deque<Worker> workers_;
     std::vector<std::thread> threads_;
-    // For the work without threads.
-    std::optional<Worker> ownWorker_;
 };
 
 }  // namespace tarnwick

@@ -3,8 +3,17 @@
 #include <zlib.h>
 
 #include <algorithm>
+#include <cerrno>
+#include <new>
 
 namespace tarnwick {
+
+namespace {
+
+// Stored blocks are a little longer than the file.
+constexpr std::uint64_t largestForSmallForm = 0xfff00000;
+
+}  // namespace
 
 zip_source_t* EntryData::newSource() {
     return zip_source_function_create(&EntryData::answer, this, nullptr);
@@ -12,7 +21,13 @@ zip_source_t* EntryData::newSource() {
 
 std::int64_t EntryData::answer(void* entryData, void* data, std::uint64_t length,
                                zip_source_cmd_t command) {
-    return static_cast<EntryData*>(entryData)->answer(data, length, command);
+    auto* const self = static_cast<EntryData*>(entryData);
+    // No exception may pass through libzip.
+    try {
+        return self->answer(data, length, command);
+    } catch (const std::bad_alloc&) {
+        return self->fail(ENOMEM);
+    }
 }
 
 std::int64_t EntryData::answer(void* data, std::uint64_t length, zip_source_cmd_t command) {
@@ -39,8 +54,11 @@ std::int64_t EntryData::status(void* data) const {
     auto* const result = static_cast<zip_stat_t*>(data);
     zip_stat_init(result);
     result->valid = ZIP_STAT_SIZE | ZIP_STAT_COMP_METHOD;
-    result->size = entry_.size();
+    result->size = entry_.size;
     result->comp_method = ZIP_CM_DEFLATE;
+    // Without a compressed size, libzip provides for one that needs the large form.
+    if (entry_.size <= largestForSmallForm)
+        result->valid |= ZIP_STAT_COMP_SIZE;
     if (isComplete_) {
         result->valid |= ZIP_STAT_CRC;
         result->size = size_;
@@ -67,7 +85,7 @@ std::int64_t EntryData::read(std::uint8_t* data, std::size_t length) {
 }
 
 std::int64_t EntryData::fail(int error) {
-    isLost_ = true;
+    readError_ = error;
     zip_error_set(&error_, ZIP_ER_READ, error);
     return -1;
 }

@@ -27,8 +27,8 @@ public:
     std::uint64_t compressedSize() const { return compressedSize_; }
     bool isDeflated() const { return isDeflated_; }
     bool hasChanged() const { return hasChanged_; }
-    // The file could not be read.
-    bool isLost() const { return isLost_; }
+    // errno if the file could not be read, or 0.
+    int readError() const { return readError_; }
 
 private:
     static std::int64_t answer(void* entryData, void* data, std::uint64_t length,
@@ -42,13 +42,13 @@ private:
     const TreeEntry& entry_;
     CompressedFiles* files_ = nullptr;
     zip_error_t error_ = {};
+    int readError_ = 0;
     std::size_t position_ = 0;  // in the piece
     std::uint64_t size_ = 0;
     std::uint64_t compressedSize_ = 0;
     std::uint32_t crc_ = 0;
     bool isDeflated_ = false;
     bool hasChanged_ = false;
-    bool isLost_ = false;
     bool isComplete_ = false;
 };
 

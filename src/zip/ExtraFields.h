@@ -1,10 +1,10 @@
 #pragma once
 
-#include <sys/stat.h>
-
 #include <cstdint>
 #include <ctime>
 #include <vector>
+
+#include "zip/FolderTree.h"
 
 namespace tarnwick {
 
@@ -17,7 +17,7 @@ struct ExtraField {
 
 // The times to the second, and the owner's ids. A field without data stands for one that the entry
 // must not have, as the times are out of its range.
-std::vector<ExtraField> extraFieldsOf(const struct stat& status);
+std::vector<ExtraField> extraFieldsOf(const TreeEntry& entry);
 
 // The modification time as the format's first version can hold it: in local time, with even
 // seconds, from 1980 to 2107.

@@ -7,13 +7,16 @@
 #include <cerrno>
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace tarnwick {
 
 namespace {
 
-bool isSame(const struct stat& one, const struct stat& other) {
-    return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+bool contains(const std::vector<struct stat>& files, const struct stat& one) {
+    return std::ranges::any_of(files, [&](const struct stat& other) {
+        return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+    });
 }
 
 // Null if the folder cannot be read.
@@ -22,32 +25,45 @@ std::optional<std::vector<std::string>> namesIn(const std::string& folder) {
     if (!open)
         return std::nullopt;
     std::vector<std::string> names;
-    while (const struct dirent* entry = ::readdir(open.get())) {
+    for (;;) {
+        errno = 0;
+        const struct dirent* const entry = ::readdir(open.get());
+        if (entry == nullptr)
+            break;
         const std::string name = entry->d_name;
         if (name != "." && name != "..")
             names.push_back(name);
     }
+    if (errno != 0)
+        return std::nullopt;
     std::ranges::sort(names);
     return names;
 }
 
 class Reader {
 public:
-    Reader(const std::string& archive, ZipReport& report)
-        : hasArchive_(::stat(archive.c_str(), &archive_) == 0), report_(report) {}
+    Reader(const std::vector<std::string>& excluded, ZipReport& report) : report_(report) {
+        for (const std::string& path : excluded) {
+            struct stat status = {};
+            if (::stat(path.c_str(), &status) == 0)
+                excluded_.push_back(status);
+        }
+    }
 
     void read(const std::string& path) {
-        TreeEntry entry{path};
-        if (::stat(path.c_str(), &entry.status) != 0)
+        struct stat status = {};
+        if (::stat(path.c_str(), &status) != 0)
             reportMissing(path);
-        else if (S_ISDIR(entry.status.st_mode))
-            readFolder(std::move(entry));
-        else if (S_ISFIFO(entry.status.st_mode))
+        else if (S_ISDIR(status.st_mode))
+            readFolder(path.ends_with('/') ? path : path + "/", status);
+        else if (S_ISFIFO(status.st_mode))
             report_.warn("ignoring FIFO (Named Pipe)", path);
-        else if (!S_ISREG(entry.status.st_mode))
+        else if (!S_ISREG(status.st_mode))
             report_.warn("ignoring special file", path);
-        else if (!hasArchive_ || !isSame(entry.status, archive_))
-            readFile(std::move(entry));
+        else if (::access(path.c_str(), R_OK) != 0)
+            report_.skip("could not open for reading", path);
+        else if (!contains(excluded_, status))
+            entries_.emplace_back(path, status);
     }
 
     std::vector<TreeEntry> takeEntries() { return std::move(entries_); }
@@ -60,27 +76,15 @@ private:
             report_.skip("could not open for reading", path);
     }
 
-    void readFile(TreeEntry entry) {
-        if (::access(entry.path.c_str(), R_OK) == 0)
-            entries_.push_back(std::move(entry));
-        else
-            report_.skip("could not open for reading", entry.path);
-    }
-
-    void readFolder(TreeEntry entry) {
-        if (!entry.path.ends_with('/'))
-            entry.path += '/';
-        const std::string path = entry.path;
-        const struct stat status = entry.status;
-        if (std::ranges::any_of(above_,
-                                [&](const auto& folder) { return isSame(folder, status); })) {
+    void readFolder(const std::string& path, const struct stat& status) {
+        if (contains(above_, status)) {
             report_.warn("ignoring folder that leads back into itself", path);
             return;
         }
-        entries_.push_back(std::move(entry));
+        entries_.emplace_back(path, status);
         const auto names = namesIn(path);
         if (!names) {
-            report_.skip("could not open folder", path);
+            report_.skip("could not read folder", path);
             return;
         }
         above_.push_back(status);
@@ -89,8 +93,7 @@ private:
         above_.pop_back();
     }
 
-    struct stat archive_ = {};
-    const bool hasArchive_;
+    std::vector<struct stat> excluded_;
     ZipReport& report_;
     std::vector<struct stat> above_;
     std::vector<TreeEntry> entries_;
@@ -98,14 +101,23 @@ private:
 
 }  // namespace
 
+TreeEntry::TreeEntry(std::string found, const struct stat& status)
+    : path(std::move(found)),
+      mode(status.st_mode),
+      user(status.st_uid),
+      group(status.st_gid),
+      modified(status.st_mtime),
+      accessed(status.st_atime),
+      size(S_ISDIR(status.st_mode) ? 0 : static_cast<std::uint64_t>(status.st_size)) {}
+
 std::string_view TreeEntry::name() const {
     const std::string_view whole = path;
     return whole.substr(std::min(whole.find_first_not_of('/'), whole.size()));
 }
 
-std::vector<TreeEntry> readFolderTree(const std::string& folder, const std::string& archive,
-                                      ZipReport& report) {
-    Reader reader(archive, report);
+std::vector<TreeEntry> readFolderTree(const std::string& folder,
+                                      const std::vector<std::string>& excluded, ZipReport& report) {
+    Reader reader(excluded, report);
     reader.read(folder);
     return reader.takeEntries();
 }

@@ -7,8 +7,9 @@ namespace tarnwick {
 namespace {
 
 std::string rate(std::uint64_t size, std::uint64_t compressedSize, bool isDeflated) {
-    const double saved =
-        isDeflated ? 1 - static_cast<double>(compressedSize) / static_cast<double>(size) : 0;
+    const double saved = isDeflated && size > 0
+                             ? 1 - static_cast<double>(compressedSize) / static_cast<double>(size)
+                             : 0;
     const int percent = static_cast<int>(100 * saved + 0.5);
     return (isDeflated ? "(deflated " : "(stored ") + std::to_string(percent) + "%)";
 }

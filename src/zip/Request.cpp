@@ -30,7 +30,8 @@ std::optional<ZipRequest> parseZipRequest(const std::vector<std::string>& argume
         return std::nullopt;
     const std::string &archive = paths[0], &folder = paths[1];
     const bool isOurs = archive.ends_with(".zip") && isPlainPath(archive) && !isOption(folder) &&
-                        folder.ends_with('/') && isPlainPath(folder);
+                        folder.ends_with('/') && isPlainPath(folder) &&
+                        folder.find_first_not_of('/') != std::string::npos;
     return isOurs ? std::optional(ZipRequest{archive, folder, options == "qr"}) : std::nullopt;
 }
 

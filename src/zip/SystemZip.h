@@ -2,8 +2,8 @@
 
 namespace tarnwick {
 
-// Becomes the system's zip: the first one on the PATH that is not this program. Returns, with an
-// exit status, if there is none.
+// Becomes the system's zip: the next one on the PATH after this program. Returns, with an exit
+// status, if there is none.
 int becomeSystemZip(char** arguments);
 
 }  // namespace tarnwick

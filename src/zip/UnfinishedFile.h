@@ -3,36 +3,41 @@
 #include <optional>
 #include <string>
 
-#include "core/Descriptor.h"
-
 namespace tarnwick {
 
-// A new file that stands beside the one it is to replace until it is whole. An interrupt, hang-up
-// or request to end removes it and ends the process. One at a time.
+// A new file that stands beside the one it is to replace until it is whole, readable by its owner
+// only. While it exists, no other process works on the same target. An interrupt, hang-up or
+// request to end removes it and ends the process. One at a time.
 class UnfinishedFile {
 public:
-    // For the file at this path; see `isOpen`.
+    // Waits for another process that works on the target.
     explicit UnfinishedFile(std::string target);
     // Removes it unless it was put in place.
     ~UnfinishedFile();
     UnfinishedFile(const UnfinishedFile&) = delete;
     UnfinishedFile& operator=(const UnfinishedFile&) = delete;
 
-    bool isOpen() const { return file_.isOpen(); }
-    int number() const { return file_.number(); }
+    // 0, or errno of what kept it from being made.
+    int error() const { return error_; }
+    int number() const { return number_; }
+    const std::string& path() const { return path_; }
 
-    // Gives it the owner and mode of the file that it replaces, writes it to the disk and puts it
-    // in place at once. `oldName` is what the file that stood there is called from then on, if it
-    // is to be kept. Returns false, with errno set, if the old file is still in place.
+    // Writes it to the disk and puts it in the target's place at once. The file that stood there is
+    // called `oldName` from then on, if it is to be kept. Returns false, with errno set, if the old
+    // file still stands there.
     bool putInPlace(const std::optional<std::string>& oldName);
 
     // Removes what killed processes left in the folder.
     static void removeStrays(const std::string& folder);
 
 private:
+    bool open();
+    bool rename(const std::optional<std::string>& oldName) const;
+
     const std::string target_;
     const std::string path_;
-    const Descriptor file_;
+    int number_ = -1;
+    int error_ = 0;
 };
 
 }  // namespace tarnwick

@@ -1,13 +1,14 @@
 #!/usr/bin/env bash
-# A save is interrupted, and a second run meets one under way. The lock on the folder of the archives, which zip waits for, holds
-# the save up as long as a test wants.
+# A save is interrupted, and a second run meets one under way. The lock on the unfinished archive, which zip waits for, holds the
+# save up as long as a test wants.
 # shellcheck source=tests/device/run_lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/run_lib.sh"
 
 # Runs the script on the phone, with the save's number in $save, while zip waits to save the pictures until `flock -u 8`.
 during_save() {
     on_phone bash -c '
-        exec 8<"$1"
+        exec 8>"$1/DCIM.zip.unfinished"
+        chmod 600 "$1/DCIM.zip.unfinished"
         flock 8
         tarnwick save photos >/dev/null 2>&1 8<&- & save=$!
         for ((attempt = 0; attempt < 2000; attempt++)); do
@@ -15,7 +16,8 @@ during_save() {
             sleep 0.01
         done
         killall -q -0 zip || echo "zip never came"
-        '"$1"'' - "$library"
+        '"$1"'
+        rm -f "$1/DCIM.zip.unfinished"' - "$library"
 }
 
 pictures() {
@@ -43,7 +45,8 @@ same "the first one went on to its end" "" "$(not_good)"
 suspended() {
     on_phone bash -c 'cat >/tmp/jobs <<"JOBS"
 set -m
-exec 8<'"$library"'
+exec 8>'"$library"'/DCIM.zip.unfinished
+chmod 600 '"$library"'/DCIM.zip.unfinished
 flock 8
 tarnwick save photos >/tmp/result 2>&1 8<&- &
 until killall -q -0 zip; do sleep 0.01; done

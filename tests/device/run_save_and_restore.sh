@@ -29,6 +29,7 @@ packages_before=$(on_phone dpkg --get-selections)
 # In the C locale too, names must come back as they were.
 same "saving everything tells one success" "All in One Backup: Backup done !" \
     "$(on_phone env LC_ALL=C tarnwick save all)"
+same "with the zip of this build" 6.3 "$(on_phone zipinfo "$library/Notes.zip" | awk 'NR == 3 { print $2 }')"
 same "and leaves no staging copy" "" "$(not_archives)"
 on_phone tarnwick save sources packages >/dev/null
 

@@ -17,7 +17,11 @@ require_programs Xvfb dbus-daemon gdbus 9wm xdotool
 install_on_phone "$phone" --model iPhone8,1
 on_session "$phone" actions
 check "the package is installed" on_phone dpkg --verify tarnwick
+# The first entry's second column: the version that libzip names, or the system's zip.
+maker() { on_phone zipinfo "$safeguard/TarnwickLibrary/$1.zip" | awk 'NR == 3 { print $2 }'; }
+same "the window's quick action used its own zip" 6.3 "$(maker SMS)"
 check "its command saves" on_phone /usr/bin/tarnwick save sources packages notes
+same "with the same zip" 6.3 "$(maker Notes)"
 was=$(saved)
 listed=$(on_phone /usr/bin/tarnwick list)
 check "it is purged" on_phone apt-get -qq --yes purge tarnwick

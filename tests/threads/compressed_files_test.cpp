@@ -18,7 +18,7 @@ protected:
                                   static_cast<char>(number));
             folder.put("tree/" + std::to_string(1000 + number), contents.back());
         }
-        tree = readFolderTree(folder.path() + "/tree/", "", report);
+        tree = readFolderTree(folder.path() + "/tree/", {}, report);
         for (const TreeEntry& entry : tree) {
             if (!entry.isFolder())
                 files.push_back(&entry);

@@ -15,6 +15,7 @@
 #include "zip/ArchiveAttempt.h"
 #include "zip/ArchiveUpdate.h"
 #include "zip/Deflater.h"
+#include "zip/UnfinishedFile.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -149,22 +150,58 @@ TEST_F(ArchiveUpdate, HealsADamagedArchiveAndSetsTheOldOneAside) {
     }
 }
 
+// Without other threads, as there is little data, and with few descriptors, as there are many
+// files.
+TEST_F(ArchiveUpdate, OpensOneSmallFileAtATime) {
+    for (int number = 0; number < 200; ++number)
+        folder.put("tree/" + std::to_string(number), "a");
+    const auto updateWithFewDescriptors = [&] {
+        const struct rlimit limit = {50, 50};
+        ::setrlimit(RLIMIT_NOFILE, &limit);
+        std::_Exit(static_cast<int>(update()));
+    };
+    EXPECT_EXIT(updateWithFewDescriptors(), ::testing::ExitedWithCode(0), "");
+    EXPECT_EQ(unpacked(entry("199")), "a");
+}
+
+// "\x82" is an "é" in the character set in which libzip compares names.
+TEST_F(ArchiveUpdate, LeavesANameOutThatLibzipTakesForAnother) {
+    folder.put("tree/\x82", "a");
+    folder.put("tree/é", "b");
+    EXPECT_EQ(update(), ZipStatus::SomeUnreadable);
+    EXPECT_EQ(update(), ZipStatus::SomeUnreadable);
+    EXPECT_FALSE(std::filesystem::exists(path("a.zip.damaged")));
+}
+
+TEST_F(ArchiveUpdate, IsNeitherReadNorWrittenThroughLinks) {
+    folder.put("tree/file", "a");
+    folder.put("private", "private");
+    std::filesystem::create_symlink(path("private"), path("a.zip.unfinished"));
+    ASSERT_EQ(update(), ZipStatus::Done);
+    std::filesystem::rename(path("a.zip"), path("elsewhere"));
+    std::filesystem::create_symlink(path("elsewhere"), path("a.zip"));
+    EXPECT_EQ(update(), ZipStatus::CannotRead);
+    EXPECT_TRUE(std::filesystem::is_symlink(path("a.zip")));
+    EXPECT_EQ(folder.content("private"), "private");
+}
+
 TEST_F(ArchiveUpdate, EndsWellWhenAFileChangesBeforeItIsRead) {
     for (const char* name : {"longer", "shorter", "same", "gone"})
         folder.put(std::string("tree/") + name, std::string(2 * blockLength, 'a'));
-    auto tree = readFolderTree(path("tree/"), path("a.zip"), report);
+    auto tree = readFolderTree(path("tree/"), {}, report);
     folder.put("tree/longer", std::string(4 * blockLength, 'a'));
     folder.put("tree/shorter", "a");
     std::filesystem::remove(path("tree/gone"));
+    UnfinishedFile file(path("a.zip"));
     {
-        ArchiveAttempt attempt(path("a.zip"), ArchiveFile::OldArchive::Kept, tree);
-        EXPECT_EQ(attempt.run(), ArchiveAttempt::Result::FilesLost);
-        EXPECT_EQ(attempt.lostFiles(), std::vector{path("tree/gone")});
+        ArchiveAttempt first(path("a.zip"), ArchiveFile::OldArchive::Kept, file.number(), tree);
+        EXPECT_EQ(first.run(), ArchiveAttempt::Result::FilesLost);
+        EXPECT_EQ(first.lostFiles(), std::unordered_set{path("tree/gone")});
     }
-    EXPECT_FALSE(std::filesystem::exists(path("a.zip.unfinished")));
     std::erase_if(tree, [&](const TreeEntry& each) { return each.path == path("tree/gone"); });
-    ArchiveAttempt attempt(path("a.zip"), ArchiveFile::OldArchive::Kept, tree);
-    ASSERT_EQ(attempt.run(), ArchiveAttempt::Result::Done);
+    ArchiveAttempt second(path("a.zip"), ArchiveFile::OldArchive::Kept, file.number(), tree);
+    ASSERT_EQ(second.run(), ArchiveAttempt::Result::Done);
+    ASSERT_TRUE(file.putInPlace({}));
     EXPECT_EQ(unpacked(entry("longer")).size(), 2 * blockLength);
     EXPECT_EQ(unpacked(entry("shorter")), "a");
     EXPECT_EQ(unpacked(entry("same")).size(), 2 * blockLength);

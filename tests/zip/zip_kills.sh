@@ -35,12 +35,17 @@ check "200 kills, many of them in the middle: old or new, never neither" test "$
 cp before.zip archive.zip
 for signal in INT TERM HUP; do
     status=0
-    # An old archive that is large enough for the signal to come in between.
     end_after 0.02 "$signal" || status=$?
     [[ $status == 9 || $status == 0 ]] || same "the status after $signal" 9 "$status"
     check "after $signal the archive is whole" whole
     refuse "and there is no stray" test -e archive.zip.unfinished
 done
+
+for ((number = 0; number < 4; number++)); do
+    "$ours" -rq archive.zip tree/ &
+done
+wait
+check "several at a time wait for each other" whole
 
 echo stray >other.zip.unfinished
 "$ours" -rq archive.zip tree/

@@ -1,5 +1,6 @@
 # shellcheck shell=bash
 # Shared by the tests of the program `zip`: a folder of its own, the program, and the system's zip to compare with.
+set -euo pipefail
 # shellcheck source=tests/facts.sh
 source "$(dirname "${BASH_SOURCE[0]}")/../facts.sh"
 
