@@ -79,13 +79,8 @@ std::int64_t ArchiveFile::answer(void* data, std::uint64_t length, zip_source_cm
             return read(data, length);
         case ZIP_SOURCE_CLOSE:
             return 0;
-        case ZIP_SOURCE_SEEK: {
-            const std::int64_t target =
-                zip_source_seek_compute_offset(readPosition_, oldLength_, data, length, &error_);
-            if (target >= 0)
-                readPosition_ = static_cast<std::uint64_t>(target);
-            return target < 0 ? -1 : 0;
-        }
+        case ZIP_SOURCE_SEEK:
+            return seek(readPosition_, oldLength_, data, length);
         case ZIP_SOURCE_TELL:
             return static_cast<std::int64_t>(readPosition_);
         case ZIP_SOURCE_BEGIN_WRITE:
@@ -94,13 +89,8 @@ std::int64_t ArchiveFile::answer(void* data, std::uint64_t length, zip_source_cm
             return failWrite(write(static_cast<std::uint8_t*>(data), length)) < 0
                        ? -1
                        : static_cast<std::int64_t>(length);
-        case ZIP_SOURCE_SEEK_WRITE: {
-            const std::int64_t target =
-                zip_source_seek_compute_offset(writePosition_, newLength_, data, length, &error_);
-            if (target >= 0)
-                writePosition_ = static_cast<std::uint64_t>(target);
-            return target < 0 ? -1 : 0;
-        }
+        case ZIP_SOURCE_SEEK_WRITE:
+            return seek(writePosition_, newLength_, data, length);
         case ZIP_SOURCE_TELL_WRITE:
             return static_cast<std::int64_t>(writePosition_);
         case ZIP_SOURCE_COMMIT_WRITE:
@@ -115,6 +105,16 @@ std::int64_t ArchiveFile::answer(void* data, std::uint64_t length, zip_source_cm
             zip_error_set(&error_, ZIP_ER_OPNOTSUPP, 0);
             return -1;
     }
+}
+
+std::int64_t ArchiveFile::seek(std::uint64_t& position, std::uint64_t end, void* data,
+                               std::uint64_t length) {
+    const std::int64_t target =
+        zip_source_seek_compute_offset(position, end, data, length, &error_);
+    if (target < 0)
+        return -1;
+    position = static_cast<std::uint64_t>(target);
+    return 0;
 }
 
 std::int64_t ArchiveFile::failRead(int error) {

@@ -37,6 +37,7 @@ private:
     static std::int64_t answer(void* file, void* data, std::uint64_t length,
                                zip_source_cmd_t command);
     std::int64_t answer(void* data, std::uint64_t length, zip_source_cmd_t command);
+    std::int64_t seek(std::uint64_t& position, std::uint64_t end, void* data, std::uint64_t length);
     std::int64_t failRead(int error);
     std::int64_t failWrite(bool isDone);
 
