@@ -17,6 +17,8 @@ namespace tarnwick {
 
 namespace fs = std::filesystem;
 
+static_assert(sizeof(off_t) == 8, "Large files would not be seen: _FILE_OFFSET_BITS must be 64.");
+
 namespace {
 
 std::optional<struct stat> statusOf(const std::string& path) {

@@ -47,7 +47,9 @@ ExtraField ownerOf(const TreeEntry& entry) {
 
 std::time_t localTime(std::tm time) {
     time.tm_isdst = -1;
-    return std::mktime(&time);
+    const std::time_t result = std::mktime(&time);
+    // Where times have 32 bits, they end before.
+    return result == -1 ? std::numeric_limits<std::time_t>::max() - 1 : result;
 }
 
 }  // namespace
