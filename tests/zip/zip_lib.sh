@@ -7,7 +7,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/../facts.sh"
 place=$(mktemp -d)
 trap 'chmod -R u+rwX "$place"; rm -rf "$place"' EXIT
 cd "$place"
-ours=$TARNWICK_BUILD/libexec/tarnwick/bin/zip
+ours=$DEVICE_BUILD/libexec/tarnwick/bin/zip
 unset ZIP ZIPOPT UNZIP UNZIPOPT
 
 # unpacked ARCHIVE FOLDER: what unzip makes of an archive.

@@ -67,6 +67,7 @@ check "every tool can read the update" readable_by_all theirs.zip
 if ((EUID != 0)); then
     chmod 000 tree/new
     same "an unreadable file is left out" 18 "$(status_of "$ours" -r ours.zip tree/)"
+    chmod 644 tree/new
 fi
 same "nothing to do" 12 "$(status_of "$ours" -r none.zip nowhere/)"
 mkdir taken.zip
