@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <iterator>
 #include <thread>
 
-#include "zip/ExtraFields.h"
 #include "zip/PlainNames.h"
 
 namespace tarnwick {
@@ -33,6 +33,9 @@ bool isDamage(int code) {
         case ZIP_ER_SEEK:
         case ZIP_ER_INVAL:
         case ZIP_ER_READ:
+#ifdef ZIP_ER_TRUNCATED_ZIP  // since libzip 1.11
+        case ZIP_ER_TRUNCATED_ZIP:
+#endif
             return true;
         default:
             return false;
@@ -41,6 +44,25 @@ bool isDamage(int code) {
 
 bool isAscii(std::string_view text) {
     return std::ranges::all_of(text, [](char character) { return (character & 0x80) == 0; });
+}
+
+// What an entry holds beside its data. Newer versions of libzip drop it when the data is replaced.
+std::vector<ExtraField> extraFieldsIn(zip_t* archive, std::uint64_t index) {
+    std::vector<ExtraField> fields;
+    for (const zip_flags_t place : {ZIP_FL_LOCAL, ZIP_FL_CENTRAL}) {
+        const int count = zip_file_extra_fields_count(archive, index, place);
+        for (int number = 0; number < count; ++number) {
+            std::uint16_t id = 0, length = 0;
+            const std::uint8_t* const data = zip_file_extra_field_get(
+                archive, index, static_cast<std::uint16_t>(number), &id, &length, place);
+            auto field = std::ranges::find(fields, id, &ExtraField::id);
+            if (field == fields.end())
+                field = fields.insert(field, {.id = id});
+            if (data != nullptr)
+                (place == ZIP_FL_LOCAL ? field->local : field->central).assign(data, data + length);
+        }
+    }
+    return fields;
 }
 
 bool replaceExtraField(zip_t* archive, std::uint64_t index, const ExtraField& field) {
@@ -110,13 +132,17 @@ bool ArchiveAttempt::addEntries() {
         Addition addition = {.data = &data};
         if (const auto old = indices.find(data.entry().name()); old != indices.end())
             addition = {old->second, true, &data};
+        std::vector<ExtraField> fields;
+        if (addition.isUpdate)
+            fields = extraFieldsIn(archive_.get(), addition.index);
+        std::ranges::move(extraFieldsOf(data.entry()), std::back_inserter(fields));
         if (!putData(addition)) {
             if (zip_error_code_zip(zip_get_error(archive_.get())) != ZIP_ER_EXISTS)
                 return false;
             refused_.insert(data.entry().path);
             continue;
         }
-        if (!describe(addition))
+        if (!describe(addition, fields))
             return false;
         additions_.push_back(addition);
     }
@@ -142,7 +168,7 @@ bool ArchiveAttempt::putData(Addition& addition) {
     return isDone;
 }
 
-bool ArchiveAttempt::describe(const Addition& addition) {
+bool ArchiveAttempt::describe(const Addition& addition, const std::vector<ExtraField>& fields) {
     const TreeEntry& entry = addition.data->entry();
     zip_t* const archive = archive_.get();
     const std::uint64_t index = addition.index;
@@ -151,7 +177,7 @@ bool ArchiveAttempt::describe(const Addition& addition) {
            zip_file_set_mtime(archive, index, nearestArchiveTime(entry.modified), 0) == 0 &&
            // The old version may have been encrypted.
            zip_file_set_encryption(archive, index, ZIP_EM_NONE, nullptr) == 0 &&
-           std::ranges::all_of(extraFieldsOf(entry), [&](const ExtraField& field) {
+           std::ranges::all_of(fields, [&](const ExtraField& field) {
                return replaceExtraField(archive, index, field);
            });
 }

@@ -12,6 +12,7 @@
 
 #include "zip/ArchiveFile.h"
 #include "zip/EntryData.h"
+#include "zip/ExtraFields.h"
 #include "zip/FolderTree.h"
 #include "zip/Report.h"
 
@@ -50,7 +51,7 @@ private:
     std::unordered_map<std::string_view, std::uint64_t> indicesByName() const;
     bool addEntries();
     bool putData(Addition& addition);
-    bool describe(const Addition& addition);
+    bool describe(const Addition& addition, const std::vector<ExtraField>& fields);
     bool writeAll();
     bool declareAddedNamesPlain(std::uint64_t commentLength) const;
     Result failure(zip_error_t& error);
