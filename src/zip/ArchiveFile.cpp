@@ -7,25 +7,15 @@
 #include <algorithm>
 #include <cerrno>
 #include <new>
+#include <string_view>
+
+#include "core/WriteAll.h"
 
 namespace tarnwick {
 
 namespace {
 
 constexpr std::size_t bufferLength = std::size_t(1) << 20;  // bytes
-
-bool writeAt(int file, const std::uint8_t* data, std::size_t length, std::uint64_t offset) {
-    while (length > 0) {
-        const ssize_t count = ::pwrite(file, data, length, static_cast<off_t>(offset));
-        if (count < 0 && errno != EINTR)
-            return false;
-        const auto done = static_cast<std::size_t>(std::max<ssize_t>(count, 0));
-        data += done;
-        length -= done;
-        offset += done;
-    }
-    return true;
-}
 
 }  // namespace
 
@@ -173,7 +163,9 @@ bool ArchiveFile::write(const std::uint8_t* data, std::size_t length) {
 }
 
 bool ArchiveFile::writeOut() {
-    if (!writeAt(newFile_, buffer_.data(), buffer_.size(), bufferStart_))
+    const std::string_view bytes(reinterpret_cast<const char*>(buffer_.data()), buffer_.size());
+    if (::lseek(newFile_, static_cast<off_t>(bufferStart_), SEEK_SET) < 0 ||
+        !writeAll(newFile_, bytes))
         return false;
     // The disk begins now, rather than when all is there.
     if (buffer_.size() >= bufferLength)
