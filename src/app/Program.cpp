@@ -42,6 +42,13 @@ void Program::launch(const LaunchOptions& options) {
         window_.setRootViewController(
             loadMainStoryboard(services_)->instantiateInitialViewController());
     window_.makeKeyAndVisible();
+    tellOfLeftRun();
+}
+
+void Program::tellOfLeftRun() {
+    const std::string text = textOf(run_.takeLeft());
+    if (!text.empty())
+        window_.alerts().show({.title = "Tarnwick", .message = text});
 }
 
 }  // namespace tarnwick

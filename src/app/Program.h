@@ -1,13 +1,18 @@
 #pragma once
 
+#include <unistd.h>
+
 #include <QString>
 #include <memory>
 
 #include "app/AppDelegate.h"
+#include "app/Termination.h"
 #include "core/ItemCatalogue.h"
 #include "core/SystemCommandRunner.h"
 #include "core/SystemFileManager.h"
 #include "core/SystemLog.h"
+#include "guard/Guard.h"
+#include "guard/SharedRun.h"
 #include "mail/ComposerMailer.h"
 #include "platform/threads/PlatformQueues.h"
 #include "platform/windows/Window.h"
@@ -31,17 +36,25 @@ public:
 
 private:
     void launch(const LaunchOptions& options);
+    void tellOfLeftRun();
 
     const ItemCatalogue catalogue_;
-    SystemCommandRunner runner_;
+    CommandOutput commandOutput_{STDERR_FILENO};
+    SystemCommandRunner runner_{&commandOutput_};
+    const Termination termination_{runner_};
     SystemFileManager files_;
     SystemLog log_;
+    Guard guard_{catalogue_, runner_, files_,
+                 [this](const std::string& fault) { log_.write(fault); }};
+    SharedRun run_{guard_, runLockPath};
     Window window_;
+    TaskGate gate_{run_};
     // It only refers to the others. Before the queues, as tasks use it until these are gone.
     const ScreenServices services_ = {.catalogue = catalogue_,
-                                      .runner = runner_,
-                                      .files = files_,
+                                      .runner = guard_.runner(),
+                                      .files = guard_.files(),
                                       .queues = queues_,
+                                      .gate = gate_,
                                       .alerts = window_.alerts(),
                                       .mailer = mailer_,
                                       .log = log_};

@@ -1,6 +1,6 @@
 #include "app/QuickSaves.h"
 
-#include <memory>
+#include <string>
 
 #include "backup/SavingWork.h"
 
@@ -17,22 +17,25 @@ void saveAllInOne(const ScreenServices& services) {
         archiveItem(item, item.allInOneSaveCommands, services.runner, services.files);
 }
 
-// Main thread.
-class ProgressNotice {
-public:
-    explicit ProgressNotice(AlertPresenter& alerts) : alerts_(alerts) {}
+}  // namespace
 
-    void show() {
-        ticket_ = alerts_.show({.message = "Backup in progress...", .cancelButtonTitle = ""});
-    }
+// An alert without a button. Main thread.
+class QuickSaves::Notice {
+public:
+    Notice(AlertPresenter& alerts, const char* message) : alerts_(alerts), message_(message) {}
+
+    void show() { ticket_ = alerts_.show({.message = message_, .cancelButtonTitle = ""}); }
     void dismiss() { alerts_.dismiss(ticket_, noCancelButton, Animated::Yes); }
 
 private:
     static constexpr int noCancelButton = -1;
 
     AlertPresenter& alerts_;
+    const std::string message_;
     AlertTicket ticket_;
 };
+
+namespace {
 
 void showDone(AlertPresenter& alerts, const char* title) {
     alerts.show({.title = title, .message = "Backup done !"});
@@ -41,8 +44,7 @@ void showDone(AlertPresenter& alerts, const char* title) {
 }  // namespace
 
 void QuickSaves::saveCydia() const {
-    const auto notice = std::make_shared<ProgressNotice>(services_.alerts);
-    services_.queues.dispatchToGlobalQueue([&services = services_, notice] {
+    perform("save packages and sources", [&services = services_](const auto& notice) {
         services.queues.dispatchToMainQueue([notice] { notice->show(); });
         savePackageSelections(services.runner);
         saveSources(services);
@@ -53,8 +55,7 @@ void QuickSaves::saveCydia() const {
 }
 
 void QuickSaves::saveAll() const {
-    const auto notice = std::make_shared<ProgressNotice>(services_.alerts);
-    services_.queues.dispatchToGlobalQueue([&services = services_, notice] {
+    perform("save all in one", [&services = services_](const auto& notice) {
         services.queues.dispatchToMainQueue([notice] { notice->show(); });
         saveAllInOne(services);
         services.queues.dispatchToMainQueue([&services, notice] {
@@ -62,6 +63,21 @@ void QuickSaves::saveAll() const {
             showDone(services.alerts, "All in One Backup");
         });
     });
+}
+
+void QuickSaves::perform(const char* what, const Work& work) const {
+    const auto notice = std::make_shared<Notice>(services_.alerts, "Backup in progress...");
+    const auto waiting =
+        std::make_shared<Notice>(services_.alerts, "Waiting for another run of Tarnwick to end...");
+    services_.gate.perform(
+        {.what = what,
+         .task =
+             [&queues = services_.queues, work, notice] {
+                 queues.dispatchToGlobalQueue(
+                     [ticket = TaskGate::currentTicket(), work, notice] { work(notice); });
+             },
+         .showWaiting = [waiting] { waiting->show(); },
+         .hideWaiting = [waiting] { waiting->dismiss(); }});
 }
 
 }  // namespace tarnwick

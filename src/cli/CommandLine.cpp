@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "cli/CommandTable.h"
-#include "cli/RunLock.h"
 #include "core/JoinedText.h"
+#include "core/Reasons.h"
 
 namespace tarnwick {
 
@@ -51,17 +51,30 @@ ExitStatus runLocked(Session& session, const Command& command,
         session.output().complaint(command.name + " needs root");
         return NotRoot;
     }
-    const RunLock lock(session.world().lockPath);
+    const RunLock& lock = session.takeLock();
     if (lock.state() == RunLock::State::TakenByAnother) {
         session.output().complaint("another run is under way");
         return RunUnderWay;
     }
     if (lock.state() == RunLock::State::Unavailable) {
         session.output().complaint("cannot tell whether another run is under way: " +
-                                   session.world().lockPath + " cannot be opened");
+                                   failureText(session.world().lockPath, "opened", lock.error()));
         return NotAllDone;
     }
+    session.world().guard.clearUp();
     return command.run(session, words);
+}
+
+// Of the run before, if its end was not seen and no run is under way.
+void mentionLeftRun(Session& session) {
+    const World& world = session.world();
+    if (!world.isRoot || session.arguments().dryRun || !hasLeftRun(world.lockPath))
+        return;
+    const RunLock lock(world.lockPath);
+    if (lock.state() != RunLock::State::Held)
+        return;
+    session.output().complaint(textOf(lock.left()));
+    lock.clear();
 }
 
 ExitStatus runCommand(Session& session, const std::string& name,
@@ -72,6 +85,7 @@ ExitStatus runCommand(Session& session, const std::string& name,
         return wrongUsage(session, unknownWord("command", name, namesOf(commands)));
     if (const auto fault = faultOf(*command, words))
         return wrongUsage(session, *fault);
+    mentionLeftRun(session);
     if (command->reach == Reach::Changes && !session.arguments().dryRun)
         return runLocked(session, *command, words);
     return command->run(session, words);
@@ -103,7 +117,7 @@ ExitStatus runCommandLine(const Arguments& arguments, const World& world) {
     const ExitStatus status = run(session);
     if (status != AllDone || !session.output().lostResult())
         return status;
-    session.output().complaint("the results cannot be written");
+    session.output().complaint(lostResultText);
     return NotAllDone;
 }
 

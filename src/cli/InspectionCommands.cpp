@@ -1,8 +1,12 @@
+#include <sys/wait.h>
+
 #include <algorithm>
+#include <cerrno>
 #include <ctime>
 
 #include "cli/Commands.h"
 #include "cli/Words.h"
+#include "core/Reasons.h"
 #include "core/SafeguardPaths.h"
 #include "help/HelpTexts.h"
 #include "options/SizeFormatters.h"
@@ -28,7 +32,7 @@ void showFile(Session& session, const std::string& folder, const std::string& na
     const std::string path = folder + "/" + name;
     const auto size = session.files().fileSize(path);
     const auto modified = session.files().modificationTime(path).value_or(0);
-    const std::string shown = folder.substr(folder.rfind('/') + 1) + "/" + name;
+    const std::string shown = paths::nameOf(folder) + "/" + name;
     session.output().result(
         formattedTime(modified, "%Y-%m-%d %H:%M", ::localtime_r) + "  " +
             rightAligned(memoryFormatterDouble(static_cast<double>(size)), sizeWidth) + "  " +
@@ -38,15 +42,17 @@ void showFile(Session& session, const std::string& folder, const std::string& na
          {"modified", formattedTime(modified, "%Y-%m-%dT%H:%M:%SZ", ::gmtime_r)}});
 }
 
-// Complains if a part of the safeguard folder cannot be listed. One that does not exist is empty.
+// Complains of each part of the safeguard folder that cannot be listed. One that does not exist is
+// empty.
 bool isReadable(Session& session) {
+    bool readable = true;
     for (const std::string_view folder : paths::safeguardFolders) {
-        if (session.files().list(folder) || !session.files().exists(folder))
+        if (session.files().list(folder) || errno == ENOENT)
             continue;
-        session.output().complaint(std::string(folder) + " cannot be read");
-        return false;
+        session.output().complaint(failureText(folder, "read", errno));
+        readable = false;
     }
-    return true;
+    return readable;
 }
 
 ExitStatus unreadable(const Session& session) {
@@ -62,63 +68,78 @@ std::size_t listFolder(Session& session, const std::string& folder) {
     return names.size();
 }
 
-// The archives of the named items; without names, all existing archives.
+// The archives of the named items; without names, of all.
 std::vector<std::string> archivesOf(Session& session, const std::vector<std::string>& words) {
     std::vector<std::string> archives;
     for (const BackupItem& item : session.catalogue()) {
         const bool named =
             std::find(words.begin(), words.end(), kebabCase(item.key)) != words.end();
         for (const std::string& path : item.archivePaths())
-            if (named || (words.empty() && session.files().exists(path)))
+            if (named || words.empty())
                 archives.push_back(path);
     }
     return archives;
 }
 
-// Prints the archive's verdict; false unless it is whole.
-bool checkArchive(Session& session, const std::string& path) {
-    const std::string name = path.substr(path.rfind('/') + 1);
-    const bool exists = session.files().exists(path);
-    const bool whole = exists && session.runner().run("/usr/bin/unzip -tqq " + path) == 0;
-    const std::string verdict = whole ? "good" : exists ? "damaged" : "missing";
+// What the status of unzip says about an archive. It is not the archive's fault if unzip cannot be
+// started, was killed, or lacks memory.
+std::string verdictOf(int status) {
+    constexpr int worstWarning = 1;
+    constexpr int firstMemoryError = 4;
+    constexpr int lastMemoryError = 8;
+    constexpr int cannotBeStarted = 126;
+    const int code = WEXITSTATUS(status);
+    if (!WIFEXITED(status) || code >= cannotBeStarted ||
+        (code >= firstMemoryError && code <= lastMemoryError))
+        return "cannot be tested";
+    return code <= worstWarning ? "good" : "damaged";
+}
+
+std::string verdictOn(Session& session, const std::string& path) {
+    if (!session.files().exists(path))
+        return "missing";
+    return verdictOf(session.archiveTester().run("/usr/bin/unzip -tqq " + path));
+}
+
+// Prints the archive's verdict.
+void checkArchive(Session& session, const std::string& path) {
+    const std::string name = paths::nameOf(path);
+    const std::string verdict = verdictOn(session, path);
     const JsonFields fields = {{"archive", name}, {"verdict", verdict}};
     if (session.arguments().dryRun)
-        return true;
-    if (whole)
+        return;
+    if (verdict == "good") {
         session.output().result(name + ": " + verdict, fields);
-    else
-        session.output().problem(name + ": " + verdict, fields);
-    return whole;
+        return;
+    }
+    session.output().problem(name + ": " + verdict, fields);
+    session.feedback().noteProblem();
 }
 
 }  // namespace
 
 ExitStatus listSafeguard(Session& session, const std::vector<std::string>&) {
-    if (!isReadable(session))
-        return unreadable(session);
+    const bool readable = isReadable(session);
     std::size_t count = 0;
     for (const std::string_view folder :
          {paths::sourcesFolder, paths::packagesFolder, paths::archiveFolder})
         count += listFolder(session, std::string(folder));
+    if (!readable)
+        return unreadable(session);
     if (count == 0 && !session.arguments().json)
         session.output().result("The safeguard folder is empty.", {});
     return AllDone;
 }
 
 ExitStatus checkArchives(Session& session, const std::vector<std::string>& words) {
-    if (!isReadable(session))
-        return unreadable(session);
+    const bool readable = isReadable(session);
     const auto archives = archivesOf(session, words);
-    if (archives.empty()) {
-        session.output().complaint("there is no archive");
-        return NotAllDone;
-    }
     const auto work = [&] {
         for (const std::string& archive : archives)
-            if (!checkArchive(session, archive))
-                session.feedback().noteProblem();
+            checkArchive(session, archive);
     };
-    return session.perform(work, {});
+    const ExitStatus status = session.perform({.work = work});
+    return readable ? status : unreadable(session);
 }
 
 ExitStatus showStorage(Session& session, const std::vector<std::string>&) {

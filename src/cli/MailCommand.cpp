@@ -53,7 +53,7 @@ ExitStatus mailPackageList(Session& session, const std::vector<std::string>&) {
         session.output().complaint(*fault);
         return WrongUsage;
     }
-    return session.perform([&] { send(session, mail); }, {});
+    return session.perform({.work = [&] { send(session, mail); }});
 }
 
 }  // namespace tarnwick

@@ -2,6 +2,7 @@
 
 #include "cli/Commands.h"
 #include "cli/Words.h"
+#include "core/SafeguardPaths.h"
 
 namespace tarnwick {
 
@@ -13,8 +14,8 @@ ExitStatus confirmed(Session& session, void (OptionsOperations::*action)()) {
     const Alert question = session.feedback().takeQuestion().value();
     if (const auto refused = session.refusal(question))
         return *refused;
-    return session.perform([&] { session.options().alertViewClickedButtonAtIndex(question, 1); },
-                           {});
+    return session.perform(
+        {.work = [&] { session.options().alertViewClickedButtonAtIndex(question, 1); }});
 }
 
 // The words of the command line answer the choice.
@@ -32,7 +33,7 @@ int buttonIndexOf(const std::string& word, const std::vector<std::string>& words
 std::vector<std::string> folderWords() {
     std::vector<std::string> words;
     for (const RecreatableFolder& folder : recreatableFolders())
-        words.push_back(folder.path.substr(folder.path.rfind('/') + 1));
+        words.push_back(paths::nameOf(folder.path));
     return words;
 }
 
@@ -45,7 +46,7 @@ ExitStatus showSize(Session& session, const std::vector<std::string>& words) {
         session.options().backupSize();
         choose(session, buttonIndexOf(words.front(), itemWords(session.catalogue())));
     };
-    return session.perform(work, leftovers);
+    return session.perform({.work = work, .leftovers = leftovers, .what = "size " + words.front()});
 }
 
 ExitStatus recreateFolders(Session& session, const std::vector<std::string>& words) {
@@ -57,7 +58,7 @@ ExitStatus recreateFolders(Session& session, const std::vector<std::string>& wor
         if (!words.empty())
             choose(session, buttonIndexOf(words.front(), folderWords()));
     };
-    return session.perform(work, {});
+    return session.perform({.work = work});
 }
 
 ExitStatus removeSaved(Session& session, const std::vector<std::string>& words) {

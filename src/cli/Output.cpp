@@ -11,9 +11,10 @@ namespace tarnwick {
 
 namespace {
 
-// False if the text was lost. Nothing is lost if nobody reads the stream any more.
+// False if the text was lost. Nothing is lost if nobody reads the stream any more, or if the
+// terminal has gone.
 bool deliver(int descriptor, std::string_view text) {
-    return writeAll(descriptor, text) || errno == EPIPE;
+    return writeAll(descriptor, text) || errno == EPIPE || errno == EIO;
 }
 
 bool isControl(std::string_view character) {
@@ -46,15 +47,21 @@ std::string red(const std::string& text) {
 Output::Output(const Streams& streams, Format format, Colour colour)
     : streams_(streams), format_(format), colour_(colour) {}
 
+void Output::write(int descriptor, const std::string& text) {
+    if (!deliver(descriptor, text))
+        lostResult_ = true;
+    if (copy_ >= 0)
+        writeAll(copy_, text);
+}
+
 void Output::result(const std::string& text, const JsonFields& fields) {
     const std::string shown = format_ == Format::Json ? jsonObject(fields) : printable(text);
-    if (!deliver(streams_.results, shown + "\n"))
-        lostResult_ = true;
+    write(streams_.results, shown + "\n");
 }
 
 void Output::problem(const std::string& text, const JsonFields& fields) {
     const std::string shown = colour_ == Colour::Coloured ? red(printable(text)) : printable(text);
-    deliver(streams_.problems, (format_ == Format::Json ? jsonObject(fields) : shown) + "\n");
+    write(streams_.problems, (format_ == Format::Json ? jsonObject(fields) : shown) + "\n");
 }
 
 void Output::alert(const Alert& alert) {
@@ -67,7 +74,7 @@ void Output::alert(const Alert& alert) {
 }
 
 void Output::complaint(const std::string& text) {
-    deliver(streams_.problems, "tarnwick: " + printable(text) + "\n");
+    write(streams_.problems, "tarnwick: " + printable(text) + "\n");
 }
 
 void Output::prompt(const std::string& text) {

@@ -19,8 +19,10 @@ public:
 
     // One line: the text, or the fields as an object.
     void result(const std::string& text, const JsonFields& fields);
-    // Whether a result could not be written, on a full disk for example.
+    // Whether a result or a problem could not be written, on a full disk for example.
     bool lostResult() const { return lostResult_; }
+    // Everything is written to this descriptor as well, until it is set to -1.
+    void copyTo(int descriptor) { copy_ = descriptor; }
     void problem(const std::string& text, const JsonFields& fields);
     // "TITLE: MESSAGE", as a result or a problem depending on the alert's kind.
     void alert(const Alert& alert);
@@ -30,10 +32,13 @@ public:
     void prompt(const std::string& text);
 
 private:
+    void write(int descriptor, const std::string& text);
+
     Streams streams_;
     Format format_;
     Colour colour_;
     bool lostResult_ = false;
+    int copy_ = -1;
 };
 
 }  // namespace tarnwick

@@ -1,8 +1,10 @@
 #include <algorithm>
 #include <functional>
+#include <iterator>
 
 #include "cli/Commands.h"
 #include "cli/Words.h"
+#include "core/JoinedText.h"
 #include "core/SafeguardPaths.h"
 
 namespace tarnwick {
@@ -51,6 +53,49 @@ std::optional<ExitStatus> addRestoreSteps(Session& session, const std::vector<st
     return std::nullopt;
 }
 
+bool has(const std::vector<std::string>& words, std::string_view word) {
+    return std::find(words.begin(), words.end(), word) != words.end();
+}
+
+// A restore without Cydia's cache deletes its list before it copies the saved one.
+bool onlyDeletesSources(const FileReader& files) {
+    return !files.exists(paths::cydiaCacheList) && !files.exists(paths::savedCydiaList) &&
+           files.exists(paths::cydiaAptList);
+}
+
+Alert deletionQuestion() {
+    return {.title = "Cydia Sources Restoration",
+            .message = "There is no saved " + paths::nameOf(paths::savedCydiaList) +
+                       ": this deletes " + std::string(paths::cydiaAptList) +
+                       " and puts nothing in its place.",
+            .otherButtonTitles = {"Delete it"},
+            .kind = AlertKind::Question};
+}
+
+// What the operations do not report: that there is nothing to put back.
+std::vector<std::string> missingBackups(const FileReader& files, const Plan& plan,
+                                        const std::vector<std::string>& words) {
+    std::vector<std::string> missing;
+    const bool hasSources =
+        files.exists(paths::savedCydiaList) ||
+        (files.exists(paths::cydiaCacheList) && files.exists(paths::savedSourcesList));
+    if (has(words, "sources") && !hasSources)
+        missing.emplace_back("there is no saved list of sources to put back");
+    if (has(words, everyItem) && plan.empty())
+        missing.emplace_back("there is no archive to restore");
+    return missing;
+}
+
+// Gives what was begun back to its owner.
+std::vector<std::string> ownerLines(const Plan& plan) {
+    std::vector<std::string> lines;
+    for (const BackupItem* item : plan)
+        std::copy_if(item->restoreCommands.begin(), item->restoreCommands.end(),
+                     std::back_inserter(lines),
+                     [](const std::string& line) { return line.starts_with("chown "); });
+    return lines;
+}
+
 // What to do about an offer: as --then says, else as the person at the terminal says, else nothing.
 Offer answerTo(Session& session, Offer offer) {
     if (session.arguments().then)
@@ -71,29 +116,38 @@ ExitStatus saveTargets(Session& session, const std::vector<std::string>& words) 
         for (const std::string& word : words)
             actions.at(actionName("save", word, session.catalogue()))();
     };
-    return session.perform(work, stagingPathsOf(plan));
+    return session.perform(
+        {.work = work, .leftovers = stagingPathsOf(plan), .what = "save " + joined(words, " ")});
 }
 
 ExitStatus restoreTargets(Session& session, const std::vector<std::string>& words) {
-    session.feedback().setPlan(
-        planOf(session.catalogue(), words, [&session](const BackupItem& item) {
-            return session.files().exists(item.firstArchivePath());
-        }));
+    const Plan plan = planOf(session.catalogue(), words, [&session](const BackupItem& item) {
+        return session.files().exists(item.firstArchivePath());
+    });
+    session.feedback().setPlan(plan);
     Steps steps;
+    if (has(words, "sources") && onlyDeletesSources(session.files()))
+        if (const auto refused = session.refusal(deletionQuestion()))
+            return *refused;
     if (const auto refused = addRestoreSteps(session, words, steps))
         return *refused;
-    const std::string unpackedTree(paths::unpackedTree);
+    const auto missing = missingBackups(session.files(), plan, words);
     const auto work = [&] {
-        // What a killed restore left there would pass for a part of this one's archives.
-        if (session.files().exists(unpackedTree))
-            session.changes().remove(unpackedTree);
         for (const auto& step : steps)
             step();
+        for (const std::string& backup : missing)
+            session.report(backup);
     };
-    return session.perform(work, {unpackedTree}, [&session](const RunReport& report) {
+    const auto afterwards = [&session](const RunReport& report) {
         if (report.offer != Offer::None)
             session.restore().accept(answerTo(session, report.offer));
-    });
+    };
+    return session.perform({.work = work,
+                            .repairs = ownerLines(plan),
+                            .afterwards = afterwards,
+                            .what = "restore " + joined(words, " "),
+                            .isRestore = true,
+                            .installsPackages = has(words, "packages")});
 }
 
 }  // namespace tarnwick

@@ -1,5 +1,6 @@
 #include "cli/Session.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -17,6 +18,12 @@ Colour colourFor(int descriptor) {
 // No line for --json, which is for scripts, nor where commands print themselves.
 int lineDescriptor(const World& world, const Arguments& arguments) {
     return arguments.json || arguments.verbose || arguments.dryRun ? -1 : world.streams.problems;
+}
+
+// Below 0 if it cannot be made, which the restore does not depend on.
+int newLog(const std::string& path) {
+    ::unlink(path.c_str());
+    return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_APPEND | O_CLOEXEC, 0600);
 }
 
 }  // namespace
@@ -39,21 +46,31 @@ Session::Session(const World& world, const Arguments& arguments)
                                         .changes = changes(),
                                         .feedback = feedback_,
                                         .queues = queues_};
+    world_.guard.setFaultListener([this](const std::string& fault) { report(fault); });
     backup_.emplace(services);
     restore_.emplace(services);
     options_.emplace(services);
 }
 
 CommandRunner& Session::runner() {
-    if (arguments_.dryRun)
-        return rehearsalRunner_;
-    return world_.runner;
+    return arguments_.dryRun ? rehearsalRunner_ : world_.guard.runner();
+}
+
+CommandRunner& Session::archiveTester() {
+    return arguments_.dryRun ? rehearsalRunner_ : world_.runner;
 }
 
 FileWriter& Session::changes() {
     if (arguments_.dryRun)
         return rehearsalChanges_;
-    return world_.files;
+    return world_.guard.files();
+}
+
+void Session::report(const std::string& fault) {
+    if (arguments_.dryRun)
+        return;
+    line_.without([&] { output_.complaint(fault); });
+    feedback_.noteProblem();
 }
 
 std::optional<ExitStatus> Session::refusal(const Alert& question) {
@@ -68,34 +85,85 @@ std::optional<ExitStatus> Session::refusal(const Alert& question) {
     return NotAllDone;
 }
 
-std::optional<ExitStatus> Session::failureOf(SupervisedRun::End end) {
+int Session::workAndReport(const Undertaking& task) {
+    task.work();
+    line_.stop();
+    if (output_.lostResult()) {
+        output_.complaint(lostResultText);
+        feedback_.noteProblem();
+    }
+    return feedback_.report().asStatus();
+}
+
+void Session::tidyUpAfter(const Undertaking& task) {
+    for (const std::string& leftover : task.leftovers)
+        changes().remove(leftover);
+    world_.guard.clearUp();
+    for (const std::string& line : task.repairs)
+        runner().run(line);
+    line_.eraseLeftover();
+}
+
+void Session::warnOfInterrupt(const Undertaking& task) {
+    line_.without([&] {
+        output_.complaint(
+            "a restore is under way; if it ends now, data may be incomplete and "
+            "belong to root" +
+            std::string(task.installsPackages ? ", and packages be missing" : "") +
+            ". Press Ctrl-C again within 3 seconds to end it all the same");
+    });
+}
+
+SupervisedRun Session::runInOwnProcess(const Undertaking& task) {
+    SupervisedWork supervised = {.work = [&] { return workAndReport(task); },
+                                 .tidyUp = [&] { tidyUpAfter(task); },
+                                 .endsGently = task.installsPackages};
+    if (!task.isRestore)
+        return world_.supervise(supervised);
+    supervised.warn = [&] { warnOfInterrupt(task); };
+    const Descriptor log(newLog(world_.logPath));
+    output_.copyTo(log.number());
+    const SupervisedRun run = world_.supervise(supervised);
+    if (run.wasHungUp)
+        output_.complaint("it ended with status " + std::to_string(run.status));
+    else
+        ::unlink(world_.logPath.c_str());
+    output_.copyTo(-1);
+    return run;
+}
+
+void Session::settleRecord(const Undertaking& task, const SupervisedRun& run) {
+    if (!lock_ || task.what.empty())
+        return;
+    if (run.wasHungUp)
+        lock_->recordUnseen(task.what);
+    else
+        lock_->clear();
+}
+
+std::optional<ExitStatus> Session::failureOf(const Undertaking& task, SupervisedRun::End end) {
     if (end == SupervisedRun::End::Finished)
         return std::nullopt;
     const bool interrupted = end == SupervisedRun::End::Interrupted;
-    output_.complaint(interrupted ? "interrupted" : "the run ended unexpectedly");
+    output_.complaint((interrupted ? "interrupted" : "the run ended unexpectedly") +
+                      (task.what.empty() ? "" : "; to be run again: tarnwick " + task.what));
     return interrupted ? Interrupted : NotAllDone;
 }
 
-ExitStatus Session::perform(const std::function<void()>& work,
-                            const std::vector<std::string>& leftovers,
-                            const std::function<void(const RunReport&)>& afterwards) {
-    const auto reportedWork = [&work, this] {
-        work();
-        line_.stop();
-        return feedback_.report().asStatus();
-    };
-    const auto tidyUp = [&leftovers, this] {
-        for (const std::string& leftover : leftovers)
-            changes().remove(leftover);
-        line_.eraseLeftover();
-    };
-    const SupervisedRun run = arguments_.dryRun
-                                  ? SupervisedRun{SupervisedRun::End::Finished, reportedWork()}
-                                  : world_.supervise(reportedWork, tidyUp);
-    if (const auto failure = failureOf(run.end))
+ExitStatus Session::perform(const Undertaking& task) {
+    SupervisedRun run = {SupervisedRun::End::Finished};
+    if (arguments_.dryRun) {
+        run.status = workAndReport(task);
+    } else {
+        if (lock_ && !task.what.empty())
+            lock_->record(task.what);
+        run = runInOwnProcess(task);
+        settleRecord(task, run);
+    }
+    if (const auto failure = failureOf(task, run.end))
         return *failure;
     const RunReport report = RunReport::fromStatus(run.status);
-    afterwards(report);
+    task.afterwards(report);
     return report.hasProblem ? NotAllDone : AllDone;
 }
 

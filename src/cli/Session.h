@@ -16,6 +16,8 @@
 #include "cli/Streams.h"
 #include "cli/Supervisor.h"
 #include "cli/TerminalFeedback.h"
+#include "guard/Guard.h"
+#include "guard/RunLock.h"
 #include "options/OptionsOperations.h"
 #include "restore/RestoreOperations.h"
 
@@ -26,12 +28,30 @@ struct World {
     Streams streams;
     CommandRunner& runner;
     FileManager& files;
+    Guard& guard;  // of the two above
     bool isRoot;
     std::string lockPath;
+    std::string logPath;  // of a run that goes on when its terminal hangs up
     std::string mailerProgram;
-    std::function<SupervisedRun(const std::function<int()>& work,
-                                const std::function<void()>& tidyUp)>
-        supervise;
+    std::function<SupervisedRun(const SupervisedWork& supervised)> supervise;
+};
+
+inline constexpr const char* lostResultText = "the results cannot be written";
+
+// What a verb does in a process of its own.
+struct Undertaking {
+    std::function<void()> work;
+    // Removed if the work does not come to its end.
+    std::vector<std::string> leftovers = {};
+    // Lines that are run then, to leave what was begun in order.
+    std::vector<std::string> repairs = {};
+    // After the end of the work.
+    std::function<void(const RunReport&)> afterwards = [](const RunReport&) {};
+    // What to run again if it is cut off, such as "save notes"; empty if that is of no use.
+    std::string what = {};
+    // Puts data back, which should not be left half done.
+    bool isRestore = false;
+    bool installsPackages = false;
 };
 
 // One run of the command: the operations, wired to a terminal, or to a rehearsal for --dry-run. The
@@ -45,10 +65,14 @@ public:
     const World& world() const { return world_; }
     const Arguments& arguments() const { return arguments_; }
     const ItemCatalogue& catalogue() const { return catalogue_; }
-    const FileReader& files() const { return world_.files; }
+    const FileReader& files() const { return world_.guard.files(); }
     // These two print what they would do in a rehearsal.
     CommandRunner& runner();
     FileWriter& changes();
+    // For lines whose failure is a verdict rather than a fault.
+    CommandRunner& archiveTester();
+    // Holds it until the session ends.
+    const RunLock& takeLock() { return lock_.emplace(world_.lockPath); }
 
     Output& output() { return output_; }
     Questions& questions() { return questions_; }
@@ -58,17 +82,22 @@ public:
     RestoreOperations& restore() { return *restore_; }
     OptionsOperations& options() { return *options_; }
 
+    // Complains of what is missing or has failed; the run is not all done then. A rehearsal, in
+    // which nothing fails, has no such report.
+    void report(const std::string& fault);
+
     // Null if the question counts as answered with yes; otherwise the status to end with.
     std::optional<ExitStatus> refusal(const Alert& question);
 
-    // Does the work in a process of its own, then what is to be done afterwards. If the work does
-    // not come to its end, removes the leftovers instead.
-    ExitStatus perform(
-        const std::function<void()>& work, const std::vector<std::string>& leftovers,
-        const std::function<void(const RunReport&)>& afterwards = [](const RunReport&) {});
+    ExitStatus perform(const Undertaking& task);
 
 private:
-    std::optional<ExitStatus> failureOf(SupervisedRun::End end);
+    int workAndReport(const Undertaking& task);
+    void tidyUpAfter(const Undertaking& task);
+    void warnOfInterrupt(const Undertaking& task);
+    SupervisedRun runInOwnProcess(const Undertaking& task);
+    void settleRecord(const Undertaking& task, const SupervisedRun& run);
+    std::optional<ExitStatus> failureOf(const Undertaking& task, SupervisedRun::End end);
 
     // Initialisers only bind references to other members, so that their order does not matter.
     const World& world_;
@@ -81,6 +110,7 @@ private:
     RehearsalRunner rehearsalRunner_;
     RehearsalFileWriter rehearsalChanges_;
     InPlaceQueues queues_;
+    std::optional<RunLock> lock_;
     // Set in the constructor's body, when everything that they use exists.
     std::optional<BackupOperations> backup_;
     std::optional<RestoreOperations> restore_;

@@ -3,6 +3,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <initializer_list>
+
 #include "core/Descriptor.h"
 
 namespace tarnwick {
@@ -23,17 +25,14 @@ void pointAtNothing(int descriptor) {
 
 }  // namespace
 
-Streams separateStreams(CommandOutput output) {
+Streams separateStreams() {
     const Streams streams = {.input = setApart(STDIN_FILENO),
                              .results = setApart(STDOUT_FILENO),
                              .problems = setApart(STDERR_FILENO)};
-    pointAtNothing(STDIN_FILENO);
-    if (output == CommandOutput::ShownWithProblems) {
-        ::dup2(STDERR_FILENO, STDOUT_FILENO);
-    } else {
-        pointAtNothing(STDOUT_FILENO);
-        pointAtNothing(STDERR_FILENO);
-    }
+    // What cannot be set apart is still needed to say so.
+    if (streams.problems >= 0)
+        for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+            pointAtNothing(descriptor);
     return streams;
 }
 

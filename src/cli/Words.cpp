@@ -24,13 +24,7 @@ std::vector<Target> targetsOf(const ItemCatalogue& catalogue) {
 }  // namespace
 
 std::string kebabCase(const std::string& key) {
-    std::string word;
-    for (const char character : key) {
-        if (isCapital(character) && !word.empty())
-            word += '-';
-        word += lowerCase(character);
-    }
-    return word;
+    return wordsOfCamelCase(key, '-');
 }
 
 std::vector<std::string> itemWords(const ItemCatalogue& catalogue) {

@@ -1,5 +1,7 @@
 #include <unistd.h>
 
+#include <cstdio>
+
 #include "cli/CommandLine.h"
 #include "core/CommandEnvironment.h"
 #include "core/SystemCommandRunner.h"
@@ -12,15 +14,23 @@ int main(int count, char** values) {
     if (!prepareForCommands())
         return WrongUsage;
     const Arguments arguments = parseArguments({values + 1, values + count});
-    SystemCommandRunner runner;
+    const Streams streams = separateStreams();
+    if (streams.input < 0 || streams.results < 0 || streams.problems < 0) {
+        std::fputs("tarnwick: too few files may be open\n", stderr);
+        return NotAllDone;
+    }
+    CommandOutput commandOutput(arguments.verbose ? streams.problems : -1);
+    SystemCommandRunner runner(&commandOutput);
     SystemFileManager files;
+    Guard guard(ItemCatalogue(), runner, files);
     const World world = {
-        .streams = separateStreams(arguments.verbose ? CommandOutput::ShownWithProblems
-                                                     : CommandOutput::Discarded),
+        .streams = streams,
         .runner = runner,
         .files = files,
+        .guard = guard,
         .isRoot = ::geteuid() == 0,
-        .lockPath = "/var/lib/tarnwick.lock",
+        .lockPath = runLockPath,
+        .logPath = runLogPath,
         .mailerProgram = systemMailer,
         .supervise = supervise,
     };

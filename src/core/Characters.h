@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <string>
 #include <string_view>
 
 namespace tarnwick {
@@ -29,6 +30,17 @@ constexpr bool consistsOf(std::string_view text, std::string_view marks) {
         return isLetter(character) || isDigit(character) ||
                marks.find(character) != std::string_view::npos;
     });
+}
+
+// "TweaksPrefs" with a hyphen between is "tweaks-prefs".
+inline std::string wordsOfCamelCase(std::string_view name, char between) {
+    std::string words;
+    for (const char character : name) {
+        if (isCapital(character) && !words.empty())
+            words += between;
+        words += lowerCase(character);
+    }
+    return words;
 }
 
 }  // namespace tarnwick

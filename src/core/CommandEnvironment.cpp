@@ -48,8 +48,8 @@ void putOwnToolsFirst() {
 
 bool prepareForCommands() {
     fillStandardDescriptors();
-    // A handler rather than SIG_IGN, which commands would inherit.
-    std::signal(SIGPIPE, [](int) {});
+    // Commands inherit this: a reader that goes away must not stop them half-way.
+    std::signal(SIGPIPE, SIG_IGN);
     // Options that the caller set for these tools could make archives that no restore can use.
     for (const char* options : {"ZIP", "ZIPOPT", "UNZIP", "UNZIPOPT"})
         ::unsetenv(options);

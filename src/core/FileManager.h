@@ -9,9 +9,9 @@
 
 namespace tarnwick {
 
-// The file calls that operations make. Nothing throws and no reason is reported: most callers do
-// not even look at the result. Any thread. Seams, so that tests can use another root or inject
-// faults, and a rehearsal can read without writing.
+// The file calls that operations make. Nothing throws, and after a failure errno holds the reason:
+// most callers do not even look at the result. Any thread. Seams, so that tests can use another
+// root or inject faults, and a rehearsal can read without writing.
 class FileReader {
 public:
     virtual ~FileReader() = default;
@@ -20,9 +20,10 @@ public:
     virtual bool exists(std::string_view path) const = 0;
     // The names in a folder, in the file system's own order; null if it cannot be listed.
     virtual std::optional<std::vector<std::string>> list(std::string_view path) const = 0;
-    // The whole text of a file; null unless it can be read and is valid UTF-8.
+    // The whole text of a file; null unless it can be read and is valid UTF-8 (EILSEQ).
     virtual std::optional<std::string> readText(std::string_view path) const = 0;
-    // The whole content of a file; null if it cannot be read.
+    // The whole content of a regular file of at most 64 MB; null if it is a link (ELOOP), something
+    // else (ENOTSUP), larger (EFBIG) or cannot be read.
     virtual std::optional<std::string> readData(std::string_view path) const = 0;
     // Bytes; 0 if the file is not accessible.
     virtual std::uint64_t fileSize(std::string_view path) const = 0;
@@ -41,11 +42,12 @@ public:
     // Removes a folder with all its contents. A failure may leave a part of it. Links are not
     // followed.
     virtual bool remove(std::string_view path) = 0;
-    // Fails, with nothing changed, when the target exists.
+    // Copies a file that readData() would read, with its permissions. Fails, with nothing changed,
+    // when the target exists.
     virtual bool copy(std::string_view from, std::string_view to) = 0;
     // Creates missing parents too. An existing folder is not an error.
     virtual bool createDirectory(std::string_view path) = 0;
-    // Creates an empty file, or empties an existing one.
+    // Creates an empty file, or empties an existing one. Links are not followed.
     virtual bool createFile(std::string_view path) = 0;
     // Replaces the file at once: after a failure the old text is still there.
     virtual bool writeText(std::string_view path, std::string_view text) = 0;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <string>
 #include <string_view>
 
 namespace tarnwick::paths {
@@ -39,5 +40,10 @@ inline constexpr std::string_view userPartition = "/private/var";
 // In the order in which they are tested and made.
 inline constexpr std::array<std::string_view, 4> safeguardFolders = {safeguardRoot, sourcesFolder,
                                                                      packagesFolder, archiveFolder};
+
+// The last component of a path.
+inline std::string nameOf(std::string_view path) {
+    return std::string(path.substr(path.rfind('/') + 1));
+}
 
 }  // namespace tarnwick::paths

@@ -33,6 +33,9 @@ public:
         SizeChoiceTag = 7
     };
 
+    // The answers do the work.
+    static constexpr bool actionsOnlyAsk = true;
+
     using StorageFigures = std::function<void(const std::string& total, const std::string& free)>;
 
     using TaskOperations::TaskOperations;

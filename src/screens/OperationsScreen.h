@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/Characters.h"
 #include "screens/TaskScreen.h"
 
 namespace tarnwick {
@@ -11,13 +12,24 @@ public:
     explicit OperationsScreen(const ScreenServices& services)
         : TaskScreen(services), operations_(operationServices()) {
         for (const auto& [name, action] : operations_.actions())
-            addAction(QString::fromStdString(name), [action = action](QQuickItem*) { action(); });
+            addAction(QString::fromStdString(name),
+                      [this, name = name, action = action](QQuickItem*) {
+                          // A question changes nothing.
+                          if constexpr (requires { ScreenOperations::actionsOnlyAsk; })
+                              action();
+                          else
+                              perform(wordsOfCamelCase(name, ' '), action);
+                      });
     }
 
+    // The cancel button, index 0, does nothing in any alert.
     void alertClickedButtonAtIndex(const Alert& alert, int index) override {
         // Some operations show no alert that asks.
         if constexpr (requires { operations_.alertViewClickedButtonAtIndex(alert, index); })
-            operations_.alertViewClickedButtonAtIndex(alert, index);
+            if (index > 0)
+                perform(alert.title, [this, alert, index] {
+                    operations_.alertViewClickedButtonAtIndex(alert, index);
+                });
     }
 
 protected:

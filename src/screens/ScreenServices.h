@@ -7,6 +7,7 @@
 #include "core/TaskQueues.h"
 #include "platform/mail/Mailer.h"
 #include "platform/windows/AlertPresenter.h"
+#include "screens/TaskGate.h"
 
 namespace tarnwick {
 
@@ -16,6 +17,7 @@ struct ScreenServices {
     CommandRunner& runner;
     FileManager& files;
     TaskQueues& queues;
+    TaskGate& gate;
     AlertPresenter& alerts;
     Mailer& mailer;
     Log& log;

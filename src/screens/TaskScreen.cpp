@@ -4,7 +4,7 @@
 
 namespace tarnwick {
 
-// Keeps the screen alive while it has tasks.
+// Keeps the screen alive, and the run held, while it has tasks.
 class TaskScreen::Queues : public TaskQueues {
 public:
     Queues(TaskScreen& screen, TaskQueues& queues) : screen_(screen), queues_(queues) {}
@@ -18,7 +18,10 @@ public:
 
 private:
     Task keeping(const Task& task) const {
-        return [screen = screen_.shared_from_this(), task] { task(); };
+        return [screen = screen_.shared_from_this(), ticket = TaskGate::currentTicket(), task] {
+            const TaskGate::Part part(ticket);
+            task();
+        };
     }
 
     TaskScreen& screen_;
@@ -40,6 +43,18 @@ void TaskScreen::showHud(std::string_view label) {
 void TaskScreen::hideHud() {
     if (hud_)
         hud_->hide(Animated::Yes);
+}
+
+void TaskScreen::perform(const std::string& what, std::function<void()> task) {
+    const auto self = shared_from_this();
+    services_.gate.perform({.what = what,
+                            .task = [self, task = std::move(task)] { task(); },
+                            .showWaiting =
+                                [this] {
+                                    showHud("Waiting...");
+                                    hud_->setDetailsLabelText("for another run of Tarnwick to end");
+                                },
+                            .hideWaiting = [this] { hideHud(); }});
 }
 
 void TaskScreen::show(const Alert& alert) {

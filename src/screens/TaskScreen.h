@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QPointer>
+#include <functional>
 #include <memory>
 #include <mutex>
+#include <string>
 
 #include "core/TaskOperations.h"
 #include "platform/windows/AlertPresenter.h"
@@ -28,6 +30,9 @@ public:
     void alertDidDismissWithButtonIndex(const Alert& alert, int index) override;
 
 protected:
+    // Does it as soon as no other program's run is under way; until then a HUD says what it waits
+    // for.
+    void perform(const std::string& what, std::function<void()> task);
     // For the operations of this screen.
     OperationServices operationServices();
 

@@ -71,6 +71,9 @@ private:
     NothingRuns runner_;
     SystemFileManager files_;
     ItemCatalogue catalogue_;
+    Guard guard_{catalogue_, runner_, files_};
+    SharedRun run_{guard_, folder_.filePath("lock").toStdString()};
+    TaskGate gate_{run_};
     PlatformQueues queues_;
     ComposerMailer mailer_{queues_};
     SystemLog log_;
@@ -78,6 +81,7 @@ private:
                                 .runner = runner_,
                                 .files = files_,
                                 .queues = queues_,
+                                .gate = gate_,
                                 .alerts = alerts(),
                                 .mailer = mailer_,
                                 .log = log_};

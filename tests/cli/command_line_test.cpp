@@ -2,8 +2,8 @@
 
 #include "cli/CommandLine.h"
 #include "cli/CommandTable.h"
-#include "cli/RunLock.h"
 #include "core/JoinedText.h"
+#include "guard/RunLock.h"
 #include "support/CommandLineRun.h"
 #include "support/Events.h"
 #include "support/Operations.h"
@@ -156,30 +156,77 @@ TEST(CommandLine, AnInterruptedRunTakesItsStagingCopiesAway) {
     EXPECT_EQ(tarnwick.diary.entries,
               (Entries{"remove: " + library + "DCIM", "remove: " + library + "PhotoData",
                        "remove: /var/tmp/Preferences"}));
+    EXPECT_EQ(tarnwick.problems(),
+              "tarnwick: interrupted; to be run again: tarnwick save photos tweaks-prefs\n");
+    tarnwick.folder.putEveryArchive();
     EXPECT_EQ(tarnwick("restore notes"), Interrupted);
-    EXPECT_EQ(tarnwick.diary.changes(), Entries{"remove: /var/tmp/var"});
+    EXPECT_EQ(tarnwick.diary.changes(),
+              Entries{"run: chown -R mobile:mobile /var/mobile/Library/Notes"})
+        << "what was begun goes back to its owner";
     EXPECT_EQ(tarnwick("size notes"), Interrupted);
     EXPECT_EQ(tarnwick.diary.entries,
               (Entries{"remove: /var/tmp/Notes", "remove: /var/tmp/Notes.zip"}));
     tarnwick.end = SupervisedRun::End::Crashed;
     EXPECT_EQ(tarnwick("save notes"), NotAllDone);
-    EXPECT_EQ(tarnwick.problems(), "tarnwick: the run ended unexpectedly\n");
+    EXPECT_EQ(tarnwick.problems(),
+              "tarnwick: the run ended unexpectedly; to be run again: tarnwick save notes\n");
 }
 
-TEST(CommandLine, WhatAKilledRestoreUnpackedIsTakenAwayFirst) {
+TEST(CommandLine, WhatACutOffRunLeftIsClearedAndTold) {
+    CommandLineRun tarnwick;
+    tarnwick.folder.put("/var/tmp/var/half", "");
+    tarnwick.folder.put(savedPackages, "");
+    tarnwick.folder.put(savedPackages + ".previous", "good");
+    RunLock(tarnwick.lockPath).record("restore notes");
+    tarnwick("list");
+    EXPECT_EQ(tarnwick.problems(),
+              "tarnwick: The last run was cut off: restore notes. Run it again.\n");
+    EXPECT_EQ(tarnwick("folders"), AllDone);
+    EXPECT_EQ(tarnwick.problems(), "") << "told once";
+    EXPECT_EQ(tarnwick.folder.content("/var/tmp/var/half"), "(none)");
+    EXPECT_EQ(tarnwick.folder.content(savedPackages), "good");
+}
+
+TEST(CommandLine, ARestoreThatLostItsTerminalIsTold) {
     CommandLineRun tarnwick;
     tarnwick.folder.putEveryArchive();
-    tarnwick.folder.put("/var/tmp/var/half", "");
-    EXPECT_EQ(tarnwick("restore accounts"), AllDone);
-    EXPECT_EQ(tarnwick.diary.changes().front(), "remove: /var/tmp/var");
+    tarnwick.isHungUp = true;
+    EXPECT_EQ(tarnwick("restore notes"), AllDone);
+    EXPECT_EQ(tarnwick.folder.content("log"),
+              "Notes Restoration: Restoration done !\ntarnwick: it ended with status 0\n");
+    tarnwick("list");
+    EXPECT_EQ(tarnwick.problems(),
+              "tarnwick: Nobody saw the end of the last run: restore notes. Its result is in "
+              "/var/lib/tarnwick.log.\n");
+}
+
+TEST(CommandLine, WhatWasNotSavedOrPutBackIsTold) {
+    CommandLineRun tarnwick;
+    EXPECT_EQ(tarnwick("save sources"), NotAllDone);
+    EXPECT_EQ(tarnwick.problems(),
+              "tarnwick: " + cydiaList + " cannot be read: No such file or directory\n");
+    tarnwick.folder.put(savedPackages, "good");
+    tarnwick.runner.act = [&](const std::string&) { tarnwick.folder.put(savedPackages, ""); };
+    EXPECT_EQ(tarnwick("save packages"), NotAllDone);
+    EXPECT_EQ(tarnwick.problems(), "tarnwick: " + savedPackages +
+                                       " could not be saved; the earlier one is still there\n");
+    EXPECT_EQ(tarnwick.folder.content(savedPackages), "good");
+    EXPECT_EQ(tarnwick("restore all --yes"), NotAllDone);
+    EXPECT_EQ(tarnwick.problems(), "tarnwick: there is no archive to restore\n");
+    tarnwick.folder.put(cydiaList, "deb");
+    EXPECT_EQ(tarnwick("restore sources"), WrongUsage) << "this would only delete a list";
+    EXPECT_EQ(tarnwick("restore sources --yes"), NotAllDone);
+    CommandLineRun other;
+    other.folder.put(root + "/CydiaSources", "a plain file");
+    EXPECT_EQ(other("folders"), NotAllDone);
 }
 
 TEST(CommandLine, CheckNamesEachArchive) {
     CommandLineRun tarnwick;
     EXPECT_EQ(tarnwick("check"), NotAllDone);
-    EXPECT_EQ(tarnwick.problems(), "tarnwick: there is no archive\n");
+    EXPECT_TRUE(tarnwick.problems().starts_with("Preferences.zip: missing\nAccounts.zip: "));
     tarnwick.folder.put(library + "Notes.zip", "zip");
-    EXPECT_EQ(tarnwick("check"), AllDone);
+    EXPECT_EQ(tarnwick("check notes"), AllDone);
     EXPECT_EQ(tarnwick.results(), "Notes.zip: good\n");
     EXPECT_EQ(tarnwick.diary.changes(),
               Entries{"run: /usr/bin/unzip -tqq " + library + "Notes.zip"});
@@ -187,6 +234,9 @@ TEST(CommandLine, CheckNamesEachArchive) {
     EXPECT_EQ(tarnwick("check notes photos"), NotAllDone);
     EXPECT_EQ(tarnwick.problems(),
               "Notes.zip: damaged\nDCIM.zip: missing\nPhotoData.zip: missing\n");
+    tarnwick.runner.status = 127 << 8;
+    EXPECT_EQ(tarnwick("check notes"), NotAllDone);
+    EXPECT_EQ(tarnwick.problems(), "Notes.zip: cannot be tested\n");
 }
 
 TEST(CommandLine, ListShowsWhatIsThere) {

@@ -43,7 +43,7 @@ int endAfter(int signal, const std::function<int()>& work, const TemporaryFolder
     const pid_t supervisor = ::fork();
     if (supervisor == 0) {
         const auto tidyUp = [] { ::raise(SIGTERM); };
-        ::_exit(static_cast<int>(supervise(work, tidyUp).end));
+        ::_exit(static_cast<int>(supervise({.work = work, .tidyUp = tidyUp}).end));
     }
     EXPECT_TRUE(comesTrue([&] { return folder.content("ready").ends_with("\n"); }));
     ::kill(supervisor, signal);
@@ -57,12 +57,14 @@ constexpr int interrupted = static_cast<int>(SupervisedRun::End::Interrupted);
 TEST(Supervisor, HandsTheStatusOnAndReportsWorkThatWasKilled) {
     bool tidy = false;
     const auto work = [] { return ::getsid(0) == ::getpid() ? 5 : 1; };
-    const SupervisedRun run = supervise(work, [&tidy] { tidy = true; });
+    const SupervisedRun run = supervise({.work = work, .tidyUp = [&tidy] { tidy = true; }});
     EXPECT_EQ(run.end, SupervisedRun::End::Finished);
     EXPECT_EQ(run.status, 5) << "it has a session of its own, without a terminal";
     EXPECT_FALSE(tidy);
-    EXPECT_EQ(supervise([] { return ::raise(SIGKILL); }, [&tidy] { tidy = true; }).end,
-              SupervisedRun::End::Crashed);
+    EXPECT_EQ(
+        supervise({.work = [] { return ::raise(SIGKILL); }, .tidyUp = [&tidy] { tidy = true; }})
+            .end,
+        SupervisedRun::End::Crashed);
     EXPECT_TRUE(tidy);
 }
 

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 
 #include "core/SystemFileManager.h"
 #include "support/TemporaryFolder.h"
@@ -14,7 +15,7 @@ using testing::TemporaryFolder;
 
 mode_t modeOf(const std::string& path) {
     struct stat status = {};
-    return ::stat(path.c_str(), &status) == 0 ? status.st_mode & 0777 : 0;
+    return ::stat(path.c_str(), &status) == 0 ? status.st_mode & 07777 : 0;
 }
 
 class SystemFileManagerTest : public ::testing::Test {
@@ -41,34 +42,46 @@ TEST_F(SystemFileManagerTest, RemovesAFolderWithAllInItButNotWhatALinkPointsTo) 
     EXPECT_FALSE(files.remove("/gone"));
 }
 
-TEST_F(SystemFileManagerTest, CopiesFilesAndFoldersButNeverOntoWhatIsThere) {
-    folder.put("source/deep/file", "text");
+TEST_F(SystemFileManagerTest, CopiesFilesButNeverOntoWhatIsThereNorWithTheRightsOfTheirOwner) {
+    folder.put("source", "text");
+    ASSERT_EQ(::chmod((folder.path() + "/source").c_str(), 07755), 0);
     EXPECT_TRUE(files.copy("/source", "/copy"));
-    EXPECT_EQ(folder.content("copy/deep/file"), "text");
+    EXPECT_EQ(folder.content("copy"), "text");
+    EXPECT_EQ(modeOf(folder.path() + "/copy"), 0755U);
+    EXPECT_TRUE(files.writeText("/source", "new"));
+    EXPECT_EQ(modeOf(folder.path() + "/source"), 0755U);
     folder.put("file", "old");
-    EXPECT_FALSE(files.copy("/source/deep/file", "/file"));
+    EXPECT_FALSE(files.copy("/source", "/file"));
     EXPECT_EQ(folder.content("file"), "old");
     ASSERT_EQ(::symlink("elsewhere", (folder.path() + "/dangling").c_str()), 0);
     EXPECT_FALSE(files.copy("/file", "/dangling"));
+    EXPECT_FALSE(files.createFile("/dangling"));
     EXPECT_EQ(folder.content("elsewhere"), "(none)");
     EXPECT_FALSE(files.copy("/none", "/other"));
 }
 
-TEST_F(SystemFileManagerTest, ReadsWholeValidTextOnly) {
-    folder.put("empty", "");
-    folder.put("good", std::string(100'000, 'a') + "\u00E9\n");
+// A link to a device that never ends was read until there was no memory left.
+TEST_F(SystemFileManagerTest, ReadsOnlyRegularFilesOfAModestSizeAndSaysWhyNot) {
+    ASSERT_EQ(::symlink("/dev/zero", (folder.path() + "/endless").c_str()), 0);
+    ASSERT_EQ(::mkfifo((folder.path() + "/pipe").c_str(), 0600), 0);
+    folder.put("large", "");
+    ASSERT_EQ(::truncate((folder.path() + "/large").c_str(), (64 << 20) + 1), 0);
     folder.put("bad", "\xFF");
-    EXPECT_EQ(files.readText("/empty"), "");
-    EXPECT_EQ(files.readText("/good"), folder.content("good"));
-    EXPECT_EQ(files.readText("/bad"), std::nullopt);
-    EXPECT_EQ(files.readText("/none"), std::nullopt);
-    EXPECT_EQ(files.readText("/"), std::nullopt);
+    const std::pair<const char*, int> rows[] = {{"/endless", ELOOP}, {"/pipe", ENOTSUP},
+                                                {"/large", EFBIG},   {"/bad", EILSEQ},
+                                                {"/", ENOTSUP},      {"/none", ENOENT}};
+    for (const auto& [path, reason] : rows) {
+        EXPECT_EQ(files.readText(path), std::nullopt) << path;
+        EXPECT_EQ(errno, reason) << path;
+    }
+    EXPECT_FALSE(files.createFile("/pipe"));
 }
 
-TEST_F(SystemFileManagerTest, ANamedPipeHoldsNothingUp) {
-    ASSERT_EQ(::mkfifo((folder.path() + "/pipe").c_str(), 0600), 0);
-    EXPECT_EQ(files.readText("/pipe"), "");
-    EXPECT_FALSE(files.createFile("/pipe"));
+TEST_F(SystemFileManagerTest, ReadsAWholeText) {
+    folder.put("empty", "");
+    folder.put("good", std::string(100'000, 'a') + "\u00E9\n");
+    EXPECT_EQ(files.readText("/empty"), "");
+    EXPECT_EQ(files.readText("/good"), folder.content("good"));
 }
 
 TEST_F(SystemFileManagerTest, WritesAllOrNothingAndKeepsTheMode) {

@@ -45,14 +45,16 @@ int CommandLineRun::operator()(const std::string& words) {
         .streams = {terminal.value_or(input_), results_, terminal.value_or(problems_)},
         .runner = runner,
         .files = files,
+        .guard = guard,
         .isRoot = isRoot,
         .lockPath = lockPath,
+        .logPath = logPath,
         .mailerProgram = mailerProgram,
         .supervise =
-            [this](const std::function<int()>& work, const std::function<void()>& tidyUp) {
+            [this](const SupervisedWork& supervised) {
                 if (end == SupervisedRun::End::Finished)
-                    return SupervisedRun{end, work()};
-                tidyUp();
+                    return SupervisedRun{end, supervised.work(), isHungUp};
+                supervised.tidyUp();
                 return SupervisedRun{end};
             },
     };

@@ -28,13 +28,16 @@ public:
     Diary diary;
     RecordingRunner runner{diary};
     RecordingFileManager files{diary, folder};
+    Guard guard{ItemCatalogue(), runner, files, [](const std::string&) {}, folder.path()};
     bool isRoot = true;
     std::string lockPath = folder.path() + "/lock";
+    std::string logPath = folder.path() + "/log";
     std::string mailerProgram = folder.path() + "/sendmail";
     // Stands for the input and for what is shown of problems and questions, if there is one.
     std::optional<int> terminal;
     // How supervised work ends; by default it runs in place.
     SupervisedRun::End end = SupervisedRun::End::Finished;
+    bool isHungUp = false;
 
 private:
     int input_;

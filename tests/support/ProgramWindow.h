@@ -30,13 +30,11 @@ class ProgramWindow : public ::testing::Test {
 protected:
     // Other queues than the stepped ones must keep the diary to one thread at a time.
     explicit ProgramWindow(TaskQueues* otherQueues = nullptr)
-        : services{catalogue,
-                   runner,
-                   files,
-                   otherQueues != nullptr ? *otherQueues : static_cast<TaskQueues&>(queues),
-                   window.alerts(),
-                   mailer,
-                   log} {
+        : services{
+              catalogue, runner,
+              files,     otherQueues != nullptr ? *otherQueues : static_cast<TaskQueues&>(queues),
+              gate,      window.alerts(),
+              mailer,    log} {
         qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
             if (type == QtWarningMsg && !text.startsWith("QStandardPaths"))
                 ADD_FAILURE() << text.toStdString();
@@ -85,6 +83,9 @@ protected:
     ItemCatalogue catalogue;
     RecordingRunner runner{diary};
     RecordingFileManager files{diary, folder};
+    Guard guard{catalogue, runner, files, [](const std::string&) {}, folder.path()};
+    SharedRun run{guard, folder.path() + "/lock"};
+    TaskGate gate{run};
     SteppedQueues queues{diary};
     RecordingMailer mailer;
     KeptLog log;

@@ -1,0 +1,25 @@
+#include "guard/Guard.h"
+
+#include <utility>
+
+#include "core/SafeguardPaths.h"
+
+namespace tarnwick {
+
+Guard::Guard(const ItemCatalogue& catalogue, CommandRunner& runner, FileManager& files,
+             FaultListener faults, std::string root)
+    : faults_(std::move(faults)),
+      root_(std::move(root)),
+      places_(catalogue, root_),
+      runner_(runner, places_, faults_, root_),
+      files_(files, faults_, root_) {}
+
+void Guard::clearUp() {
+    places_.clearForeign();
+    places_.clearUnpacked();
+    for (const std::string_view list :
+         {paths::savedSourcesList, paths::savedCydiaList, paths::savedPackages})
+        KeptList(root_ + std::string(list)).recover();
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,102 @@
+#include "guard/GuardedRunner.h"
+
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <utility>
+
+#include "core/Reasons.h"
+#include "core/SafeguardPaths.h"
+#include "core/SystemFileManager.h"
+
+namespace tarnwick {
+
+namespace {
+
+constexpr int notRun = 1 << 8;  // a status, as the shell would return it
+constexpr int unzipWarned = 1 << 8;
+
+std::string textOfStatus(int status) {
+    if (WIFSIGNALED(status))
+        return "ended by signal " + std::to_string(WTERMSIG(status));
+    return "ended with status " + std::to_string(WEXITSTATUS(status));
+}
+
+// An application that is not running cannot be stopped, which is as good.
+bool mayFail(const LineWords& words, int status) {
+    return (words.program() == "killall" && !words.isPipeline()) ||
+           (words.program() == "unzip" && status == unzipWarned);
+}
+
+}  // namespace
+
+GuardedRunner::GuardedRunner(CommandRunner& runner, const ScratchPlaces& places,
+                             const FaultListener& faults, std::string root)
+    : runner_(runner), places_(places), faults_(faults), root_(std::move(root)) {}
+
+int GuardedRunner::run(const std::string& line) {
+    const LineWords words(line);
+    if (const auto list = words.after(">"))
+        return runIntoList(line, *list);
+    if (const auto list = words.after("<"))
+        return runFromList(line, *list);
+    return runInPlace(line);
+}
+
+int GuardedRunner::runInPlace(const std::string& line) {
+    places_.clearForeign();
+    const LineWords words(line);
+    const bool isIdle = hasNothingToWorkOn(words);
+    const auto claimed = places_.claimFor(line);
+    runner_.takeLastWords();
+    const int status = runner_.run(line);
+    if (status == 0)
+        return status;
+    // A claim that stays empty would pass for a copy.
+    if (claimed)
+        ::rmdir(claimed->c_str());
+    if (!isIdle && !mayFail(words, status))
+        report(line, status);
+    return status;
+}
+
+// The shell empties the list before it knows whether there will be another.
+int GuardedRunner::runIntoList(const std::string& line, const std::string& list) {
+    const KeptList kept(root_ + list);
+    kept.moveAside();
+    runner_.takeLastWords();
+    const int status = runner_.run(line);
+    if (status != 0)
+        report(line, status);
+    if (kept.settle(status == 0))
+        faults_(textOfRecovery(list));
+    return status;
+}
+
+int GuardedRunner::runFromList(const std::string& line, const std::string& list) {
+    if (!SystemFileManager(root_).readData(list)) {
+        faults_(failureText(list, "read", errno));
+        return notRun;
+    }
+    return runInPlace(line);
+}
+
+void GuardedRunner::report(const std::string& line, int status) {
+    const std::string words = runner_.takeLastWords();
+    faults_(words.empty() ? line + ": " + textOfStatus(status) : words);
+}
+
+// The step before has failed then, and was reported: nothing was copied, or unpacked.
+bool GuardedRunner::hasNothingToWorkOn(const LineWords& words) const {
+    const std::string program = words.program();
+    const bool copiesBack = program == "cp" && words.operand().starts_with(paths::unpackedTree);
+    if (!copiesBack && program != "zip" && program != "chown")
+        return false;
+    struct stat status = {};
+    const std::string& subject = copiesBack ? words.operand() : words.last();
+    return ::lstat((root_ + subject).c_str(), &status) != 0;
+}
+
+}  // namespace tarnwick

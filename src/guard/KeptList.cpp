@@ -1,0 +1,49 @@
+#include "guard/KeptList.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <utility>
+
+namespace tarnwick {
+
+namespace {
+
+bool isList(const std::string& path) {
+    struct stat status = {};
+    return ::lstat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0;
+}
+
+}  // namespace
+
+KeptList::KeptList(std::string path) : path_(std::move(path)), kept_(path_ + ".previous") {}
+
+void KeptList::keep() const {
+    if (isList(path_))
+        static_cast<void>(::link(path_.c_str(), kept_.c_str()));
+}
+
+void KeptList::moveAside() const {
+    if (isList(path_))
+        ::rename(path_.c_str(), kept_.c_str());
+    else
+        ::unlink(path_.c_str());
+}
+
+bool KeptList::settle(bool isWhole) const {
+    if (!isWhole || !isList(path_))
+        return recover();
+    ::unlink(kept_.c_str());
+    return false;
+}
+
+bool KeptList::recover() const {
+    return isList(kept_) && ::rename(kept_.c_str(), path_.c_str()) == 0;
+}
+
+std::string textOfRecovery(std::string_view list) {
+    return std::string(list) + " could not be saved; the earlier one is still there";
+}
+
+}  // namespace tarnwick
