@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAccessible>
+#include <QQuickItem>
 #include <QStringList>
 
 namespace tarnwick::testing {
@@ -15,6 +16,13 @@ inline QStringList offered(QAccessibleInterface* from) {
     }
     names.removeAll({});
     return names;
+}
+
+// As assistive technology does, which may have found the item earlier. The item acts in a later
+// turn of the loop.
+inline void pressFromOutside(QQuickItem* item) {
+    QAccessible::queryAccessibleInterface(item)->actionInterface()->doAction(
+        QAccessibleActionInterface::pressAction());
 }
 
 }  // namespace tarnwick::testing

@@ -21,8 +21,14 @@ T.AbstractButton {
 
     Accessible.role: Accessible.Button
     Accessible.name: text
-    // The call on the accessibility bus returns before the work begins.
-    Accessible.onPressAction: if (enabled) Qt.callLater(button.clicked)
+    // The call on the accessibility bus returns before the work begins. Whoever calls may have kept
+    // the button from before it was covered or hidden.
+    Accessible.onPressAction: Qt.callLater(button.clickIfReachable)
+
+    function clickIfReachable() {
+        if (enabled && visible)
+            clicked()
+    }
 
     Rectangle {
         visible: button.visualFocus
