@@ -81,7 +81,7 @@ TEST_F(ManyThreads, OfAHudRunsItsMethodAndEndsIt) {
     EXPECT_FALSE(hud.isVisible());
 }
 
-TEST(PlatformQueues, ServeWaitingHandOversUntilTheirThreadsAreDone) {
+TEST(PlatformQueues, ServeTheirThreadsToTheLastHandOver) {
     int served = 0;
     {
         PlatformQueues queues;
@@ -89,10 +89,11 @@ TEST(PlatformQueues, ServeWaitingHandOversUntilTheirThreadsAreDone) {
             queues.runInBackground([&] {
                 for (int turn = 0; turn < 20; ++turn)
                     queues.performOnMainThreadAndWait([&served] { ++served; });
+                queues.dispatchToMainQueue([&served] { ++served; });
             });
         queues.performOnMainThreadAndWait([&served] { ++served; });
     }
-    EXPECT_EQ(served, threadCount * 20 + 1);
+    EXPECT_EQ(served, threadCount * 21 + 1);
 }
 
 TEST(PlatformQueues, PutTheMainThreadFirst) {

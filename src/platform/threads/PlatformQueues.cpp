@@ -25,14 +25,18 @@ PlatformQueues::PlatformQueues() : usualNiceness_(getpriority(PRIO_PROCESS, 0)) 
 }
 
 PlatformQueues::~PlatformQueues() {
-    using namespace std::chrono_literals;
-    const auto idle = [this] { return running_ == 0; };
-    std::unique_lock lock(guard_);
-    while (!ended_.wait_for(lock, 10ms, idle)) {
-        lock.unlock();
+    // Also what the last thread dispatched; that may start another one.
+    bool wasIdle = false;
+    do {
+        wasIdle = isIdleSoon();
         QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
-        lock.lock();
-    }
+    } while (!wasIdle || !isIdleSoon());
+}
+
+bool PlatformQueues::isIdleSoon() {
+    using namespace std::chrono_literals;
+    std::unique_lock lock(guard_);
+    return ended_.wait_for(lock, 10ms, [this] { return running_ == 0; });
 }
 
 void PlatformQueues::startThread(Task task) {

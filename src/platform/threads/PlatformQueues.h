@@ -28,6 +28,7 @@ public:
 
 private:
     void startThread(Task task);
+    bool isIdleSoon();
 
     const int usualNiceness_;
     std::mutex guard_;  // guards the members below
