@@ -61,7 +61,8 @@ bool AppDelegate::applicationDidFinishLaunchingWithOptions(const LaunchOptions& 
 }
 
 void AppDelegate::applicationDidEnterBackground() {
-    services_.runner.run("/usr/bin/killall RootTarnwick2");
+    window_.modalPresentation().cutShort(
+        [&services = services_] { services.runner.run("/usr/bin/killall RootTarnwick2"); });
 }
 
 std::optional<std::string> AppDelegate::platformType() const {

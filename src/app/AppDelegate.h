@@ -21,7 +21,8 @@ public:
 
     // A quick action counts only on the models that had them first.
     bool applicationDidFinishLaunchingWithOptions(const LaunchOptions& options) override;
-    // Ends the program, which never stays suspended with root's rights.
+    // Ends the program, which never stays suspended with root's rights; first a mail that is being
+    // written is kept.
     void applicationDidEnterBackground() override;
     // Never calls the handler.
     void applicationPerformActionForShortcutItem(

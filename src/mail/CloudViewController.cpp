@@ -26,7 +26,8 @@ void CloudViewController::viewDidLoad() {
 
 void CloudViewController::sendBackup(QQuickItem*) {
     const auto composer = makeViewController<MailComposeViewController>(mailer_);
-    composer->setMailComposeDelegate(this);
+    composer->setMailComposeDelegate(
+        std::static_pointer_cast<CloudViewController>(shared_from_this()));
     const MailMessage mail = packageListMail(files_);
     composer->setSubject(QString::fromStdString(mail.subject));
     for (const MailAttachment& attachment : mail.attachments)

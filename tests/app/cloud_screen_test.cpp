@@ -23,12 +23,15 @@ protected:
         QTest::mouseClick(&window, Qt::LeftButton, {}, middle.toPoint());
         clock.advance(sheetDuration + 0.01);
     }
-    // What is sent when the person fills in an address and nothing else.
-    ComposedMail sentMail() {
+    QQuickItem* fillIn() {
         pressSend();
         QQuickItem* composer = window.modalPresentation().presented()->view();
         composer->findChild<QQuickItem*>("recipientsField")->setProperty("text", "me@example.org");
-        for (auto* button : composer->findChildren<QQuickItem*>())
+        return composer;
+    }
+    // What is sent when the person fills in an address and nothing else.
+    ComposedMail sentMail() {
+        for (auto* button : fillIn()->findChildren<QQuickItem*>())
             if (button->property("actionName") == "send")
                 QMetaObject::invokeMethod(button, "clicked");
         return mailer.sent.back();
@@ -69,6 +72,24 @@ TEST_F(CloudScreenTest, EachResultIsLoggedAndShowsNothing) {
         EXPECT_EQ(window.alerts().numberShown(), 0);
         clock.advance(sheetDuration + 0.01);
     }
+}
+
+TEST_F(CloudScreenTest, WhatIsWrittenIsKeptWhateverEndsIt) {
+    AppDelegate delegate(window, services);
+    diary.entries.clear();
+    fillIn();
+    delegate.applicationDidEnterBackground();
+    EXPECT_TRUE(diary.entries.empty()) << "not before the draft is kept";
+    mailer.answer();
+    EXPECT_EQ(diary.entries, Entries{"run: /usr/bin/killall RootTarnwick2"});
+    fillIn();
+    delegate.launchViewControllerOptions();
+    reveal = std::static_pointer_cast<RevealViewController>(
+        storyboard->instantiateInitialViewController());
+    finishDeletions();
+    mailer.answer();
+    EXPECT_EQ(mailer.kept.size(), 2U);
+    EXPECT_EQ(log.lines, "Mail saved\nMail saved\n");
 }
 
 TEST(ComposerMailer, TellsWhyNothingWasSentOrKept) {

@@ -55,8 +55,10 @@ protected:
 
     void open(Animated animated = Animated::No) {
         screen->diary.clear();
+        mailer.kept.clear();
+        window.setRootViewController(screen);
         composer = makeViewController<MailComposeViewController>(mailer);
-        composer->setMailComposeDelegate(screen.get());
+        composer->setMailComposeDelegate(screen);
         composer->setSubject("List");
         composer->setMessageBody("<b>Hello</b>", IsHtml::Yes);
         composer->addAttachmentData("data", "text/plain", "list.txt");
@@ -87,11 +89,19 @@ protected:
             QTest::keyClick(&window, *text);
     }
     bool isUp() { return composer->view()->parentItem() != nullptr; }
-    void answerAlert(int place) {
+    // Of the alert that is up.
+    QQuickItem* alertButton(int place) {
         clock.advance(alertAppearDuration + 0.01);
         layOut();
-        ASSERT_NE(window.alerts().top(), nullptr);
-        click(window.alerts().top()->buttons()[static_cast<std::size_t>(place)]);
+        return window.alerts().top()->buttons().at(static_cast<std::size_t>(place));
+    }
+    void answerAlert(int place) {
+        click(alertButton(place));
+        clock.advance(alertLeaveDuration + 0.01);
+    }
+    // As a quick action does. Composer and screen are the mailer's until it has answered.
+    void cutShort() {
+        window.setRootViewController(makeViewController<ViewController>());
         clock.advance(alertLeaveDuration + 0.01);
     }
 
@@ -158,6 +168,23 @@ TEST_F(MailComposerTest, EveryWayOutGivesItsResult) {
         {"deleted", [&] { type("a"), click(button("cancel")), answerAlert(deletes); }, "0;gone;"},
         {"kept", [&] { type("a"), click(button("cancel")), answerAlert(keeps), mailer.answer(); },
          "1;gone;"},
+        {"cut short untouched", [this] { cutShort(); }, "0;"},
+        {"cut short at the question",
+         [&] { type("a"), key(Qt::Key_Escape), cutShort(), mailer.answer(); }, "1;"},
+        {"cut short after it was deleted",
+         [&] { type("a"), key(Qt::Key_Escape), click(alertButton(deletes)), cutShort(); }, "0;"},
+        {"cut short while it is kept",
+         [&] {
+             type("a"), key(Qt::Key_Escape), answerAlert(keeps), cutShort(), mailer.answer();
+             EXPECT_EQ(mailer.kept.size(), 1U);
+         },
+         "1;"},
+        {"cut short while it is sent",
+         [&] {
+             type("a@b"), click(button("send")), cutShort(), mailer.answer("No route.");
+             EXPECT_TRUE(mailer.kept.empty());
+         },
+         "3No route.;"},
         {"sent in vain", [&] { type("a@b"), click(button("send")), mailer.answer("No route."); },
          "3No route.;gone;"},
         {"stayed",
@@ -178,6 +205,7 @@ TEST_F(MailComposerTest, EveryWayOutGivesItsResult) {
         clock.advance(sheetDuration + 0.01);
         EXPECT_EQ(screen->diary, row.diary) << row.name;
         EXPECT_FALSE(isUp()) << row.name;
+        EXPECT_EQ(window.alerts().numberShown(), 0) << row.name;
     }
 }
 

@@ -24,10 +24,14 @@ public:
         sent.push_back(mail);
         answer_ = std::move(whenDone);
     }
-    void keepDraft(const ComposedMail&, Answer whenDone) override { answer_ = std::move(whenDone); }
+    void keepDraft(const ComposedMail& mail, Answer whenDone) override {
+        kept.push_back(mail);
+        answer_ = std::move(whenDone);
+    }
     void answer(const std::optional<QString>& fault = {}) { std::exchange(answer_, {})(fault); }
 
     std::vector<ComposedMail> sent;
+    std::vector<ComposedMail> kept;
 
 private:
     Answer answer_;

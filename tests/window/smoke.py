@@ -36,13 +36,25 @@ def check_save():
     window.wait_until_free()
 
 
+def use_keyboard(*words):
+    subprocess.run(["xdotool", "search", "--onlyvisible", "--class", "Tarnwick", "windowfocus", "--sync", *words], check=True)
+
+
 def check_escape():
     window.press("Respring")
     window.alert(Alert("Respring", "Do you really want to Respring your device ?", ["Cancel", "Respring"]))
-    subprocess.run(["xdotool", "search", "--onlyvisible", "--class", "Tarnwick", "windowfocus", "--sync", "key", "Escape"],
-                   check=True)
+    use_keyboard("key", "Escape")
     window.wait_until_free()
     ok("Escape cancels a question")
+
+
+def write_mail():
+    window.go_to("Cloud")
+    window.press("Send Backup")
+    window.wait_for("the sheet", lambda: any(each.get_name() == "To" for each in window.objects()))
+    use_keyboard("type", "me@example.org")
+    window.wait_for("it can be sent", lambda: any(
+        each.get_name() == "Send" and not each.get_description() for each in window.objects()))
 
 
 check_screen("Backup")
@@ -52,3 +64,4 @@ for screen, before in ("Restore", []), ("Cloud", ["Keep a copy elsewhere"]), ("O
     check_screen(screen, before)
 check_escape()
 window.go_to("Help")
+write_mail()

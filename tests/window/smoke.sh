@@ -82,3 +82,4 @@ open_window
 same "the archive is good" "Notes.zip: good" "$(on_phone tarnwick check notes)"
 xdotool search --onlyvisible --class Tarnwick windowminimize
 window_ends "minimising the window ends the program by a signal"
+check "the mail that was being written is kept" grep -q '^To: me@example.org' -r "$phone/var/mobile/Library/Mail/Drafts/cur"

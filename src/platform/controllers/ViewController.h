@@ -80,6 +80,10 @@ public:
     // if there is nothing, or if it is already leaving.
     void dismissViewControllerAnimated(Animated animated, std::function<void()> completion = {});
 
+    // What presented the controller goes without dismissing it, and so does its sheet. The program
+    // may end once the task is called: a controller with something to keep calls it afterwards.
+    virtual void presentationWillBeCutShort(std::function<void()> whenKept) { whenKept(); }
+
     // Whether a container leaves space for the status bar at the top of a Flickable.
     bool automaticallyAdjustsScrollViewInsets = true;
 

@@ -116,15 +116,40 @@ void MailComposeViewController::cancel() {
     if (isUntouched())
         return finish(MailComposeResultCancelled, {});
     if (auto* window = qobject_cast<Window*>(view()->window()))
-        window->alerts().show(
+        question_ = window->alerts().show(
             draftQuestion, std::static_pointer_cast<MailComposeViewController>(shared_from_this()));
+}
+
+void MailComposeViewController::closeQuestion() {
+    if (auto* window = qobject_cast<Window*>(view()->window()))
+        window->alerts().dismiss(question_, 0, Animated::No);
+}
+
+void MailComposeViewController::presentationWillBeCutShort(std::function<void()> whenKept) {
+    closeQuestion();
+    // The system's mailer sends on without the program.
+    if (underWay_ == MailComposeResultSent)
+        return whenKept();
+    whenFinished_ = std::move(whenKept);
+    if (isDeleted_ || isUntouched())
+        finish(MailComposeResultCancelled, {});
+    else
+        keepDraft();
+}
+
+void MailComposeViewController::alertClickedButtonAtIndex(const Alert&, int index) {
+    isDeleted_ = index == deleteIndex;
 }
 
 void MailComposeViewController::alertDidDismissWithButtonIndex(const Alert&, int index) {
     if (index == deleteIndex)
         finish(MailComposeResultCancelled, {});
     else if (index == keepIndex)
-        handOver(&Mailer::keepDraft, MailComposeResultSaved, QStringLiteral("Saving…"));
+        keepDraft();
+}
+
+void MailComposeViewController::keepDraft() {
+    handOver(&Mailer::keepDraft, MailComposeResultSaved, QStringLiteral("Saving…"));
 }
 
 void MailComposeViewController::send() {
@@ -133,19 +158,20 @@ void MailComposeViewController::send() {
 
 void MailComposeViewController::handOver(Order order, MailComposeResult result,
                                          const QString& meanwhile) {
+    if (std::exchange(underWay_, result))
+        return;
     view()->setProperty("busyWith", meanwhile);
-    const auto self = std::weak_ptr(shared_from_this());
-    (mailer_.*order)(written(), [this, self, result](const std::optional<QString>& fault) {
-        if (const auto alive = self.lock())
-            finish(fault ? MailComposeResultFailed : result, fault.value_or(QString()));
+    // Both are told what became of the mail, whatever is in front by then.
+    (mailer_.*order)(written(), [this, self = shared_from_this(), delegate = delegate_.lock(),
+                                 result](const std::optional<QString>& fault) {
+        finish(fault ? MailComposeResultFailed : result, fault.value_or(QString()));
     });
 }
 
 void MailComposeViewController::finish(MailComposeResult result, const QString& error) {
-    auto* delegate = delegate_.get();
-    delegate_.set(nullptr);
-    if (delegate != nullptr)
+    if (const auto delegate = std::exchange(delegate_, {}).lock())
         delegate->mailComposeControllerDidFinishWithResult(*this, result, error);
+    std::exchange(whenFinished_, [] {})();
 }
 
 }  // namespace tarnwick

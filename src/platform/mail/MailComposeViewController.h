@@ -2,11 +2,13 @@
 
 #include <QByteArray>
 #include <QString>
+#include <functional>
+#include <memory>
+#include <optional>
 
 #include "platform/controllers/Outlet.h"
 #include "platform/controllers/ViewController.h"
 #include "platform/mail/Mailer.h"
-#include "platform/threads/WeakDelegate.h"
 #include "platform/windows/AlertPresenter.h"
 
 namespace tarnwick {
@@ -33,7 +35,8 @@ public:
 enum class IsHtml { No, Yes };
 
 // A sheet to write a mail on. What it starts with is to be set before it is presented. It sends
-// nothing itself. Main thread.
+// nothing itself. If it is cut short, what was written is kept as a draft; with its delegate it
+// lives until the mailer has answered. Main thread.
 class MailComposeViewController : public ViewController, public AlertDelegate {
     Q_OBJECT
 
@@ -41,9 +44,9 @@ public:
     // The mailer must outlive what it is asked for.
     explicit MailComposeViewController(Mailer& mailer);
 
-    // Held weakly; a QObject too.
-    void setMailComposeDelegate(MailComposeViewControllerDelegate* delegate) {
-        delegate_.set(delegate);
+    // Held weakly until something is handed to the mailer.
+    void setMailComposeDelegate(const std::weak_ptr<MailComposeViewControllerDelegate>& delegate) {
+        delegate_ = delegate;
     }
     void setSubject(const QString& subject) { preset_.subject = subject; }
     void setMessageBody(const QString& text, IsHtml isHtml);
@@ -51,6 +54,8 @@ public:
     void addAttachmentData(const QByteArray& data, const QString& mimeType,
                            const QString& fileName);
 
+    void presentationWillBeCutShort(std::function<void()> whenKept) override;
+    void alertClickedButtonAtIndex(const Alert& alert, int index) override;
     void alertDidDismissWithButtonIndex(const Alert& alert, int index) override;
 
 protected:
@@ -67,7 +72,9 @@ private:
     ComposedMail written() const;
     bool isUntouched() const;
     void cancel();
+    void closeQuestion();
     void send();
+    void keepDraft();
     void handOver(Order order, MailComposeResult result, const QString& meanwhile);
     void finish(MailComposeResult result, const QString& error);
 
@@ -78,7 +85,12 @@ private:
 
     Mailer& mailer_;
     ComposedMail preset_;
-    WeakDelegate<MailComposeViewControllerDelegate> delegate_;
+    std::weak_ptr<MailComposeViewControllerDelegate> delegate_;
+    AlertTicket question_;
+    bool isDeleted_ = false;  // even while the question still fades out
+    // What the mailer was asked for.
+    std::optional<MailComposeResult> underWay_;
+    std::function<void()> whenFinished_ = [] {};
 };
 
 }  // namespace tarnwick

@@ -35,7 +35,7 @@ ModalPresentation::ModalPresentation(Stage& stage, QQuickItem& container)
     : stage_(stage), container_(container) {}
 
 ModalPresentation::~ModalPresentation() {
-    vanish();
+    cutShort();
 }
 
 void ModalPresentation::present(ViewController& presenter,
@@ -46,7 +46,7 @@ void ModalPresentation::present(ViewController& presenter,
     end();  // one that still slides away
     presented_ = controller;
     presenter_ = &presenter;
-    connect(&presenter, &QObject::destroyed, this, &ModalPresentation::vanish);
+    connect(&presenter, &QObject::destroyed, this, [this] { cutShort(); });
     stage_.cover();
     QQuickItem* sheet = controller->view();
     addFillingSubview(&container_, sheet);
@@ -90,9 +90,15 @@ void ModalPresentation::end() {
         stage_.forceActiveFocus(Qt::OtherFocusReason);
 }
 
-void ModalPresentation::vanish() {
-    if (presented_)
-        leaving_ = std::exchange(presented_, nullptr);
+void ModalPresentation::cutShort(std::function<void()> whenKept) {
+    end();  // one that still slides away
+    const auto cut = std::exchange(presented_, nullptr);
+    if (!cut)
+        return whenKept();
+    if (presenter_)
+        presenter_->disconnect(this);
+    cut->presentationWillBeCutShort(std::move(whenKept));
+    leaving_ = cut;
     end();
 }
 

@@ -25,18 +25,21 @@ public:
     ~ModalPresentation() override;
 
     // Holds the controller until its sheet has gone. Nothing happens while a sheet is up. If the
-    // presenter goes, nobody could dismiss the sheet: it vanishes.
+    // presenter goes, nobody could dismiss the sheet: it is cut short.
     void present(ViewController& presenter, const std::shared_ptr<ViewController>& controller,
                  Animated animated);
     // Nothing happens unless the presenter's sheet is up.
     void dismiss(const ViewController& presenter, Animated animated,
                  std::function<void()> completion);
 
+    // A sheet that is up vanishes. The task is called when its controller has kept what is to be
+    // kept; at once if nothing is up.
+    void cutShort(std::function<void()> whenKept = [] {});
+
     // What is up; none if nothing is, or if it is going.
     const std::shared_ptr<ViewController>& presented() const { return presented_; }
 
 private:
-    void vanish();
     void leave(Animated animated, std::function<void()> completion);
     void end();
 

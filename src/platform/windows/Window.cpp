@@ -25,9 +25,12 @@ Window::Window()
 Window::~Window() {
     // What had the keyboard goes with its stage, which is then no longer there to be asked.
     disconnect(this, &QQuickWindow::activeFocusItemChanged, this, nullptr);
+    // While there are alerts that its controller may close.
+    modalPresentation_.cutShort();
 }
 
 void Window::setRootViewController(const std::shared_ptr<ViewController>& root) {
+    modalPresentation_.cutShort();
     if (const auto old = std::exchange(root_, root))
         removeFromSuperview(old->view());
     if (root_)

@@ -22,7 +22,8 @@ public:
     ~Window() override;
 
     const std::shared_ptr<ViewController>& rootViewController() const { return root_; }
-    // Its view fills the window from now on; that of the former one leaves it. May be none.
+    // Its view fills the window from now on; that of the former one leaves it, and a sheet is cut
+    // short. May be none.
     void setRootViewController(const std::shared_ptr<ViewController>& root);
 
     // In front of other windows, with the keyboard.
