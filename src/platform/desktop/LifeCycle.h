@@ -1,7 +1,8 @@
 #pragma once
 
 #include <QObject>
-#include <QWindow>
+#include <QQuickWindow>
+#include <QTimer>
 #include <functional>
 
 #include "platform/desktop/ShortcutItem.h"
@@ -29,11 +30,15 @@ public:
 // Follows a desktop's or a phone shell's window: it resigns active when it loses the focus, and is
 // in the background while it is minimised or hidden. A window that is closed ends the application
 // instead. Main thread.
+//
+// Wayland does not tell a window that it is hidden; at most, its compositor asks it for no more
+// frames. There, a window is taken to be hidden when it has had neither frames nor the focus for
+// one to two seconds.
 class LifeCycle : public QObject {
     Q_OBJECT
 
 public:
-    LifeCycle(QWindow& window, ApplicationDelegate& delegate);
+    LifeCycle(QQuickWindow& window, ApplicationDelegate& delegate);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -41,13 +46,17 @@ protected:
 private:
     void followFocus();
     void followVisibility(QWindow::Visibility visibility);
+    void followFrames();
+    void setHidden(bool hidden);
 
-    QWindow& window_;
+    QQuickWindow& window_;
     ApplicationDelegate& delegate_;
     bool active_ = false;
     bool inBackground_ = false;
     bool closing_ = false;
     bool wasShown_;
+    QTimer frameCheck_;           // runs on Wayland, from the first frame on
+    int checksWithoutFrame_ = 0;  // in succession
 };
 
 }  // namespace tarnwick
