@@ -65,8 +65,10 @@ complete_device() {
     [[ -d $1/usr ]] || make_program_folders "$1"
 }
 
+# In the background, as only a wait is ended by a signal at once.
 run_layer() {
-    DEVICE_SHARE=$here/content run_device "$1" root bash "/mnt/share/$2.sh" "${@:3}" </dev/null
+    DEVICE_SHARE=$here/content run_device "$1" root bash "/mnt/share/$2.sh" "${@:3}" </dev/null &
+    wait "$!"
 }
 
 fill_device() {
@@ -80,13 +82,21 @@ fill_device() {
     [[ -z $3 ]] || printf '%s\n' "$3" >"$directory/model"
 }
 
+abandon_device() {
+    local layer
+    layer=$(jobs -pr)
+    [[ -z $layer ]] || kill "$layer"
+    wait
+    remove_device "$1"
+}
+
 # new_device DIRECTORY MEGABYTES MODEL: leaves nothing if it fails.
 new_device() {
     local directory
     mkdir -- "$1" || fail "$1 cannot be made"
     directory=$(cd "$1" && pwd -P)
     # shellcheck disable=SC2064  # the folder's name as it is now
-    trap "remove_device $(printf %q "$directory")" EXIT
+    trap "abandon_device $(printf %q "$directory")" EXIT
     trap "exit 130" INT
     trap "exit 143" TERM
     fill_device "$directory" "$2" "$3"

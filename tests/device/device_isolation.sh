@@ -27,7 +27,7 @@ test_boundaries() {
     same "the build's programs are on the path" "from the build" "$(on_phone greet)"
     local attempt
     while read -r attempt; do
-        refuse "root on the device cannot: $attempt" on_phone sh -c "$attempt"
+        refuse "root on the device cannot: $attempt" on_phone sh -c "$attempt" </dev/null
     done <<'ATTEMPTS'
 mount -o remount,bind,rw /usr
 mount -o remount,rw /usr
@@ -48,6 +48,13 @@ test_escapes() {
         mkdir "/var/jail"; chroot "/var/jail" or die; chdir ".." for 1 .. 64; chroot "."; exit !-e $ARGV[0]' \
         "$workspace/secret"
     refuse "a folder that the caller has open stays outside" on_phone test -e /proc/self/fd/300/secret 300<"$workspace"
+    same "a folder cannot be a stream" "device: standard input is a folder, which would lead out of the device" \
+        "$(on_phone touch /proc/self/fd/0/planted 2>&1 <"$workspace")"
+    on_phone sh -c 'for stream in 0 1 2; do chmod 777 /dev/fd/$stream; : >/dev/fd/$stream; done; echo added' \
+        <"$workspace/secret" 2>/dev/null >"$workspace/output"
+    same "a file as a stream can only be read, or written on" "secret 644 added 644" \
+        "$(cd "$workspace"; for file in secret output; do cat $file; stat -c %a $file; done | xargs)"
+    same "nothing gets into a pipe that is read" "" "$(: | { on_phone sh -c 'echo rm >/dev/fd/0'; cat; })"
 }
 
 # The programs that build the device are the host's, whatever root does to the device's own.

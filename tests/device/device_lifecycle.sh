@@ -49,7 +49,7 @@ test_wrong_usage() {
     mkdir "$workspace/folder"
     touch "$workspace/folder/precious"
     while read -r -a words; do
-        same "refused: device ${words[*]}" 2 "$(cd "$workspace" && status_of device "${words[@]}")"
+        same "refused: device ${words[*]}" 2 "$(cd "$workspace" && status_of device "${words[@]}" </dev/null)"
     done <<'WORDS'
 
 fly

@@ -14,6 +14,14 @@ test_command() {
     done
     same "input and output pass through" "$(seq 20000 | sha256sum)" "$(seq 20000 | on_phone cat | sha256sum)"
     same "errors stay apart from output" words "$(on_phone sh -c 'echo words >&2; echo output' 2>&1 >/dev/null)"
+    same "or in order with it" "1 2 3 4" "$(on_phone sh -c 'echo 1; echo 2 >&2; echo 3; echo 4 >&2' 2>&1 | xargs)"
+    on_phone head -c 3000000 /dev/zero >"$workspace/output"
+    same "all output is there when the run ends" 3000000 "$(stat -c %s "$workspace/output")"
+    # shellcheck disable=SC2016
+    on_phone sh -c 'yes; echo $? >/var/status' | head -n 1 >/dev/null
+    same "a writer whose reader has gone ends" 141 "$(on_phone cat /var/status)"
+    same "output that cannot be written is a failure" 1 "$(on_phone echo words 2>/dev/null >/dev/full; echo $?)"
+    same "closed streams are empty ones" 0 "$(on_phone cat <&- >&- 2>&-; echo $?)"
     same "the command gets three descriptors" "0 1 2" "$(on_phone ls /proc/self/fd 9</dev/null | sed '$d' | xargs)"
 }
 

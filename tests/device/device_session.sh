@@ -45,6 +45,11 @@ test_sockets() {
 # A process with the terminal open could type into it, and the host's shell would run that.
 test_terminal() {
     local typing='for (split //, "typed\n") { ioctl STDIN, 0x5412, $_ }'
+    # shellcheck disable=SC2016
+    same "no stream of a device is the caller's terminal" "pipe pipe pipe" "$(
+        DEVICE="$repository/device/device boot $phone" script --quiet --return --command '
+            $DEVICE readlink /proc/self/fd/0 /proc/self/fd/2 | cat; $DEVICE readlink /proc/self/fd/1 </dev/null 2>/dev/null' \
+            /dev/null </dev/null | grep -o '^[a-z]*' | xargs)"
     same "nothing on the device can type into the caller's terminal" "[]" "$(
         TYPING=$typing DEVICE="$repository/device/device boot $phone" setsid script --quiet --return --command '
             $DEVICE perl -e "$TYPING" >/dev/null; $DEVICE perl -e "$TYPING" >/dev/null 2>&1
