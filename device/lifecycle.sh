@@ -18,6 +18,14 @@ remove_device() {
     as_device_root rm -rf --one-file-system -- "$1"
 }
 
+# lock_device DIRECTORY shared|exclusive: runs share a device. The lock lasts until this process and all that it started have
+# ended. Whoever was told to end a moment ago is waited for.
+lock_device() {
+    local -A reasons=([shared]="is being made, wiped or deleted" [exclusive]="is in use: end its runs first")
+    exec 8<"$1"
+    flock "--$2" --timeout 2 8 || fail "$1 ${reasons[$2]}"
+}
+
 write_log() {
     printf '%s %s\n' "$(date --utc '+%F %T')" "$2" >>"$1/log"
 }
@@ -99,13 +107,14 @@ new_device() {
     trap "abandon_device $(printf %q "$directory")" EXIT
     trap "exit 130" INT
     trap "exit 143" TERM
+    lock_device "$directory" exclusive
     fill_device "$directory" "$2" "$3"
     trap - EXIT INT TERM
 }
 
 # The safeguard folder is never moved, so an interrupted wipe cannot lose it.
 empty_device() {
-    as_device_root env --chdir="$1" find "${device_folders[@]}" -mindepth 1 \
+    enclosed "$1" find "${device_folders[@]}" -mindepth 1 \
         ! -path "$safeguard" ! -path "$safeguard/*" \
         ! \( -type d \( -path var/mobile -o -path var/mobile/Library -o -path var/mobile/Library/Preferences \) \) \
         -delete
@@ -114,11 +123,7 @@ empty_device() {
 wipe_device() {
     [[ -r $1/factory.tar ]] || fail "$1/factory.tar is missing, without which nothing would be left"
     empty_device "$1"
-    as_device_root tar -C "$1" -xpf "$1/factory.tar" --numeric-owner
+    enclosed "$1" tar -xpf - --numeric-owner <"$1/factory.tar"
     make_program_folders "$1"
     write_log "$1" wipe
-}
-
-delete_device() {
-    remove_device "$1"
 }

@@ -15,6 +15,14 @@ user_namespace() {
     printf '%s\n' --user --map-root-user --map-auto
 }
 
+# enclosed DIRECTORY COMMAND...: runs it in the device's folders, out of which no link leads.
+enclosed() {
+    local options
+    readarray -t options < <(user_namespace)
+    # shellcheck disable=SC2154  # set by device
+    unshare "${options[@]}" --mount --propagation private -- bash "$here/enclose" "$@"
+}
+
 # Runs a command that may read, chown and delete the files of the device's users.
 as_device_root() {
     local options

@@ -83,6 +83,15 @@ test_planted_links() {
     same "links planted on the device lead no preparation astray" "" "$(ls "$workspace/outside")"
 }
 
+# shellcheck source=device/namespaces.sh disable=SC2030,SC2031
+test_enclosure() (
+    here=$repository/device
+    source "$here/namespaces.sh"
+    check "what wipes a device sees its folders" enclosed "$phone" test -d var/mobile
+    refuse "but not the host's" enclosed "$phone" test -e "$workspace/secret"
+    refuse "and cannot change the host's programs" enclosed "$phone" touch /usr/planted
+)
+
 test_destruction() {
     on_phone sh -c 'apt-get -y install org.example.greyscale; killall -9 sleep MobileSMS; kill -9 -1' >/dev/null 2>&1 || true
     check "a package could be installed" on_phone test -e /var/lib/themes/greyscale/theme.conf
@@ -108,6 +117,7 @@ describe_host before
 device new "$phone"
 test_boundaries
 test_escapes
+test_enclosure
 if has_overlays; then
     test_planted_programs
     test_planted_links

@@ -44,6 +44,20 @@ test_wipe() {
     same "everything else is as new" "$new" "$(describe_rest)"
 }
 
+test_locks() {
+    local run
+    coproc "$repository/device/device" boot "$phone" sh -c 'echo up; cat'
+    run=$!
+    read -r <&"${COPROC[0]}"
+    same "a device is not wiped while it runs" "device: $phone is in use: end its runs first" "$(device wipe "$phone" 2>&1)"
+    refuse "nor deleted" device delete "$phone"
+    check "but several runs are possible" on_phone true
+    kill "$run"
+    check "one that was told to end is waited for" device wipe "$phone"
+    same "none begins during a wipe" "device: $phone is being made, wiped or deleted" \
+        "$(flock "$phone" "$repository/device/device" boot "$phone" true 2>&1)"
+}
+
 test_wrong_usage() {
     local words
     mkdir "$workspace/folder"
@@ -82,6 +96,7 @@ test_failure_leaves_nothing() {
 device new "$phone" --photos 5
 test_content
 test_wipe
+test_locks
 test_wrong_usage
 test_failure_leaves_nothing
 device delete "$phone"
