@@ -19,8 +19,9 @@ run_device() {
     exec 9<"$1/device"
     ! flock --nonblock 9 || programs=changeable
     readarray -t options < <(user_namespace)
+    limit_device
     start+=(unshare "${options[@]}" --mount --pid --uts --ipc --net --propagation private --fork --kill-child --
-        bash "$here/power_on" "$programs" "$@")
+        perl "$here/confine" bash "$here/power_on" "$programs" "$@")
     if [[ -t 0 && -t 1 && -t 2 ]]; then
         run_at_terminal "${start[@]}"
     else

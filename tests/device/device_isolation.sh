@@ -92,6 +92,27 @@ test_enclosure() (
     refuse "and cannot change the host's programs" enclosed "$phone" touch /usr/planted
 )
 
+# As under a kernel that has none.
+test_keyrings() {
+    check "the kernel's keyrings are out of reach" on_phone perl -e '
+        require "syscall.ph"; $! = 0;
+        exit grep { syscall($_, 0, -3, 0, 0, 0) != -1 || !$!{ENOSYS} } &SYS_add_key, &SYS_request_key, &SYS_keyctl'
+}
+
+# Below 4096 there is room for the processes that a device has anyway.
+test_limits() {
+    same "what runs away on the device goes first, and cannot help it" "1000 4096" \
+        "$(on_phone bash -c 'echo 0 >/proc/self/oom_score_adj; cat /proc/self/oom_score_adj; ulimit -u' 2>/dev/null | xargs)"
+    if ((EUID == 0)) && [[ ! -e /sys/fs/cgroup/tarnwick-devices && ! -e /sys/fs/cgroup/pids/tarnwick-devices ]]; then
+        echo "left out: root's number of processes, as there are no control groups here"
+    else
+        check "nor does it start any number of processes" on_phone perl -e '
+            $SIG{TERM} = "IGNORE"; my $count = 0;
+            while ($count < 5000 && defined(my $process = fork)) { $process or sleep, exit; $count++ }
+            exit($count < 3000 || $count > 4096)'
+    fi
+}
+
 test_destruction() {
     on_phone sh -c 'apt-get -y install org.example.greyscale; killall -9 sleep MobileSMS; kill -9 -1' >/dev/null 2>&1 || true
     check "a package could be installed" on_phone test -e /var/lib/themes/greyscale/theme.conf
@@ -118,6 +139,8 @@ device new "$phone"
 test_boundaries
 test_escapes
 test_enclosure
+test_keyrings
+test_limits
 if has_overlays; then
     test_planted_programs
     test_planted_links
