@@ -10,6 +10,7 @@
 #include "core/Reasons.h"
 #include "core/SafeguardPaths.h"
 #include "core/SystemFileManager.h"
+#include "guard/LinksInTheWay.h"
 
 namespace tarnwick {
 
@@ -28,6 +29,16 @@ std::string textOfStatus(int status) {
 bool mayFail(const LineWords& words, int status) {
     return (words.program() == "killall" && !words.isPipeline()) ||
            (words.program() == "unzip" && status == unzipWarned);
+}
+
+bool copiesBack(const LineWords& words) {
+    return words.program() == "cp" && words.operand().starts_with(paths::unpackedTree);
+}
+
+// As `cp -R` names the copy of a folder.
+std::string copyOf(const LineWords& words) {
+    const std::string source = words.operand().substr(0, words.operand().find_last_not_of('/') + 1);
+    return words.last() + paths::nameOf(source);
 }
 
 }  // namespace
@@ -49,6 +60,8 @@ int GuardedRunner::runInPlace(const std::string& line) {
     places_.clearForeign();
     const LineWords words(line);
     const bool isIdle = hasNothingToWorkOn(words);
+    if (copiesBack(words) && !isIdle)
+        removeLinksInTheWay(root_ + words.operand(), root_ + copyOf(words));
     const auto claimed = places_.claimFor(line);
     runner_.takeLastWords();
     const int status = runner_.run(line);
@@ -91,11 +104,10 @@ void GuardedRunner::report(const std::string& line, int status) {
 // The step before has failed then, and was reported: nothing was copied, or unpacked.
 bool GuardedRunner::hasNothingToWorkOn(const LineWords& words) const {
     const std::string program = words.program();
-    const bool copiesBack = program == "cp" && words.operand().starts_with(paths::unpackedTree);
-    if (!copiesBack && program != "zip" && program != "chown")
+    if (!copiesBack(words) && program != "zip" && program != "chown")
         return false;
     struct stat status = {};
-    const std::string& subject = copiesBack ? words.operand() : words.last();
+    const std::string& subject = copiesBack(words) ? words.operand() : words.last();
     return ::lstat((root_ + subject).c_str(), &status) != 0;
 }
 
