@@ -11,6 +11,7 @@
 #include "core/SafeguardPaths.h"
 #include "core/SystemFileManager.h"
 #include "guard/LinksInTheWay.h"
+#include "guard/PartialCopies.h"
 
 namespace tarnwick {
 
@@ -18,6 +19,7 @@ namespace {
 
 constexpr int notRun = 1 << 8;  // a status, as the shell would return it
 constexpr int unzipWarned = 1 << 8;
+constexpr int unzipFoundDiskFull = 50 << 8;
 
 std::string textOfStatus(int status) {
     if (WIFSIGNALED(status))
@@ -35,10 +37,16 @@ bool copiesBack(const LineWords& words) {
     return words.program() == "cp" && words.operand().starts_with(paths::unpackedTree);
 }
 
-// As `cp -R` names the copy of a folder.
+// As `cp -R` names the copy of a folder. One line has a relative target.
 std::string copyOf(const LineWords& words) {
     const std::string source = words.operand().substr(0, words.operand().find_last_not_of('/') + 1);
-    return words.last() + paths::nameOf(source);
+    const std::string target = words.last().substr(0, words.last().find_last_not_of('/') + 1);
+    return (target.starts_with('/') ? "" : "/") + target + "/" + paths::nameOf(source);
+}
+
+// The shell, too, may tell of a signal by a status.
+bool wasCutShort(int status) {
+    return WIFSIGNALED(status) || WEXITSTATUS(status) > 128 || status == unzipFoundDiskFull;
 }
 
 }  // namespace
@@ -64,15 +72,26 @@ int GuardedRunner::runInPlace(const std::string& line) {
         removeLinksInTheWay(root_ + words.operand(), root_ + copyOf(words));
     const auto claimed = places_.claimFor(line);
     runner_.takeLastWords();
+    const auto begin = std::filesystem::file_time_type::clock::now();
     const int status = runner_.run(line);
     if (status == 0)
         return status;
+    discardPartialResult(words, status, begin);
     // A claim that stays empty would pass for a copy.
     if (claimed)
         ::rmdir(claimed->c_str());
     if (!isIdle && !mayFail(words, status))
         report(line, status);
     return status;
+}
+
+// What is there in part would replace what is whole.
+void GuardedRunner::discardPartialResult(const LineWords& words, int status,
+                                         std::filesystem::file_time_type begin) const {
+    if (words.program() == "unzip" && wasCutShort(status))
+        places_.clearUnpacked();
+    else if (words.program() == "cp" && !copiesBack(words))
+        removePartialCopies(root_ + words.operand(), root_ + copyOf(words), begin);
 }
 
 // The shell empties the list before it knows whether there will be another.
@@ -97,8 +116,11 @@ int GuardedRunner::runFromList(const std::string& line, const std::string& list)
 }
 
 void GuardedRunner::report(const std::string& line, int status) {
-    const std::string words = runner_.takeLastWords();
-    faults_(words.empty() ? line + ": " + textOfStatus(status) : words);
+    const std::string lastWords = runner_.takeLastWords();
+    if (LineWords(line).program() == "unzip" && status == unzipFoundDiskFull)
+        faults_(failureText(paths::unpackedTree, "written", ENOSPC));
+    else
+        faults_(lastWords.empty() ? line + ": " + textOfStatus(status) : lastWords);
 }
 
 // The step before has failed then, and was reported: nothing was copied, or unpacked.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 #include "core/CommandRunner.h"
@@ -23,6 +24,8 @@ private:
     int runInPlace(const std::string& line);
     int runIntoList(const std::string& line, const std::string& list);
     int runFromList(const std::string& line, const std::string& list);
+    void discardPartialResult(const LineWords& words, int status,
+                              std::filesystem::file_time_type begin) const;
     void report(const std::string& line, int status);
     bool hasNothingToWorkOn(const LineWords& words) const;
 

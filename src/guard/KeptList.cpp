@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <filesystem>
 #include <utility>
 
 namespace tarnwick {
@@ -20,8 +21,9 @@ bool isList(const std::string& path) {
 KeptList::KeptList(std::string path) : path_(std::move(path)), kept_(path_ + ".previous") {}
 
 void KeptList::keep() const {
+    std::error_code ignored;
     if (isList(path_))
-        static_cast<void>(::link(path_.c_str(), kept_.c_str()));
+        std::filesystem::create_hard_link(path_, kept_, ignored);
 }
 
 void KeptList::moveAside() const {
