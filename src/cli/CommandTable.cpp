@@ -57,7 +57,7 @@ Rows itemRows(const ItemCatalogue& catalogue) {
 const std::vector<std::pair<std::string, std::string>>& exitStatusTable() {
     static const Rows statuses = {
         {"0", "all done"},
-        {"1", "an archive or a backup is missing or damaged, the answer was no, or the run failed"},
+        {"1", "not all done: something failed, is missing or damaged, or the answer was no"},
         {"2", "wrong usage"},
         {"3", "another run is under way"},
         {"4", "not root"},
