@@ -6,6 +6,7 @@
 #include "cli/Words.h"
 #include "core/JoinedText.h"
 #include "core/SafeguardPaths.h"
+#include "guard/MissingPackages.h"
 
 namespace tarnwick {
 
@@ -86,6 +87,19 @@ std::vector<std::string> missingBackups(const FileReader& files, const Plan& pla
     return missing;
 }
 
+void reportMissingPackages(Session& session) {
+    constexpr std::size_t mostNames = 10;
+    auto missing = missingPackages(session.files());
+    if (missing.empty())
+        return;
+    if (missing.size() > mostNames) {
+        const std::size_t more = missing.size() - mostNames;
+        missing.resize(mostNames);
+        missing.push_back(std::to_string(more) + " more");
+    }
+    session.report("these packages of the list are not installed: " + joined(missing, ", "));
+}
+
 // Gives what was begun back to its owner.
 std::vector<std::string> ownerLines(const Plan& plan) {
     std::vector<std::string> lines;
@@ -132,11 +146,14 @@ ExitStatus restoreTargets(Session& session, const std::vector<std::string>& word
     if (const auto refused = addRestoreSteps(session, words, steps))
         return *refused;
     const auto missing = missingBackups(session.files(), plan, words);
+    const bool installsPackages = has(words, "packages");
     const auto work = [&] {
         for (const auto& step : steps)
             step();
         for (const std::string& backup : missing)
             session.report(backup);
+        if (installsPackages)
+            reportMissingPackages(session);
     };
     const auto afterwards = [&session](const RunReport& report) {
         if (report.offer != Offer::None)
@@ -147,7 +164,7 @@ ExitStatus restoreTargets(Session& session, const std::vector<std::string>& word
                             .afterwards = afterwards,
                             .what = "restore " + joined(words, " "),
                             .isRestore = true,
-                            .installsPackages = has(words, "packages")});
+                            .installsPackages = installsPackages});
 }
 
 }  // namespace tarnwick

@@ -29,6 +29,9 @@ inline constexpr std::string_view cydiaCacheList =
 inline constexpr std::string_view ownAptList = "/etc/apt/sources.list.d/TWKSources.list";
 inline constexpr std::string_view cydiaAptList = "/etc/apt/sources.list.d/cydia.list";
 
+// What dpkg knows of each package.
+inline constexpr std::string_view packageStates = "/var/lib/dpkg/status";
+
 // Scratch space: staging copies that may not lie in the safeguard folder, unpacked archives.
 inline constexpr std::string_view scratchFolder = "/var/tmp/";
 // What an archive unpacks to: all paths in an archive begin with "var/".

@@ -18,6 +18,7 @@ namespace tarnwick {
 namespace {
 
 constexpr int notRun = 1 << 8;  // a status, as the shell would return it
+constexpr int killallFoundNone = 1 << 8;
 constexpr int unzipWarned = 1 << 8;
 constexpr int unzipFoundDiskFull = 50 << 8;
 
@@ -29,7 +30,8 @@ std::string textOfStatus(int status) {
 
 // An application that is not running cannot be stopped, which is as good.
 bool mayFail(const LineWords& words, int status) {
-    return (words.program() == "killall" && !words.isPipeline()) ||
+    const bool isKillall = words.program() == "killall" && !words.isPipeline();
+    return (isKillall && status == killallFoundNone) ||
            (words.program() == "unzip" && status == unzipWarned);
 }
 

@@ -1,0 +1,43 @@
+#include "guard/MissingPackages.h"
+
+#include <set>
+#include <sstream>
+
+#include "core/SafeguardPaths.h"
+
+namespace tarnwick {
+
+namespace {
+
+std::string withoutArchitecture(const std::string& package) {
+    return package.substr(0, package.find(':'));
+}
+
+// A package is described by lines of which the first is its name.
+std::set<std::string> installedPackages(const std::string& states) {
+    constexpr std::string_view name = "Package: ";
+    std::set<std::string> installed;
+    std::istringstream stream(states);
+    std::string package;
+    for (std::string line; std::getline(stream, line);) {
+        if (line.starts_with(name))
+            package = line.substr(name.size());
+        else if (line.starts_with("Status: ") && line.ends_with(" installed"))
+            installed.insert(package);
+    }
+    return installed;
+}
+
+}  // namespace
+
+std::vector<std::string> missingPackages(const FileReader& files) {
+    const auto installed = installedPackages(files.readText(paths::packageStates).value_or(""));
+    std::istringstream list(files.readText(paths::savedPackages).value_or(""));
+    std::vector<std::string> missing;
+    for (std::string package, selection; list >> package >> selection;)
+        if (selection == "install" && !installed.contains(withoutArchitecture(package)))
+            missing.push_back(package);
+    return missing;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/FileManager.h"
+
+namespace tarnwick {
+
+// The packages that the saved list wants installed and that are not, by name, in the list's order.
+// Of a restore, the only trace: the status of its line is that of the last step alone.
+std::vector<std::string> missingPackages(const FileReader& files);
+
+}  // namespace tarnwick
