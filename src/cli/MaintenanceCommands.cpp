@@ -40,13 +40,11 @@ std::vector<std::string> folderWords() {
 ExitStatus showSize(Session& session, const std::vector<std::string>& words) {
     const BackupItem& item = *itemOfWord(session.catalogue(), words.front());
     session.feedback().setPlan({&item});
-    std::vector<std::string> leftovers = item.sizeCopyPaths;
-    leftovers.insert(leftovers.end(), item.sizeArchivePaths.begin(), item.sizeArchivePaths.end());
     const auto work = [&] {
         session.options().backupSize();
         choose(session, buttonIndexOf(words.front(), itemWords(session.catalogue())));
     };
-    return session.perform({.work = work, .leftovers = leftovers, .what = "size " + words.front()});
+    return session.perform({.work = work, .what = "size " + words.front()});
 }
 
 ExitStatus recreateFolders(Session& session, const std::vector<std::string>& words) {

@@ -27,13 +27,6 @@ Plan planOf(const ItemCatalogue& catalogue, const std::vector<std::string>& word
     return plan;
 }
 
-std::vector<std::string> stagingPathsOf(const Plan& plan) {
-    std::vector<std::string> paths;
-    for (const BackupItem* item : plan)
-        paths.insert(paths.end(), item->stagingPaths.begin(), item->stagingPaths.end());
-    return paths;
-}
-
 // The steps of the words, in their order. Returns the status to end with if a question was refused.
 std::optional<ExitStatus> addRestoreSteps(Session& session, const std::vector<std::string>& words,
                                           Steps& steps) {
@@ -130,8 +123,7 @@ ExitStatus saveTargets(Session& session, const std::vector<std::string>& words) 
         for (const std::string& word : words)
             actions.at(actionName("save", word, session.catalogue()))();
     };
-    return session.perform(
-        {.work = work, .leftovers = stagingPathsOf(plan), .what = "save " + joined(words, " ")});
+    return session.perform({.work = work, .what = "save " + joined(words, " ")});
 }
 
 ExitStatus restoreTargets(Session& session, const std::vector<std::string>& words) {

@@ -96,8 +96,6 @@ int Session::workAndReport(const Undertaking& task) {
 }
 
 void Session::tidyUpAfter(const Undertaking& task) {
-    for (const std::string& leftover : task.leftovers)
-        changes().remove(leftover);
     world_.guard.clearUp();
     for (const std::string& line : task.repairs)
         runner().run(line);

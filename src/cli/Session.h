@@ -41,9 +41,7 @@ inline constexpr const char* lostResultText = "the results cannot be written";
 // What a verb does in a process of its own.
 struct Undertaking {
     std::function<void()> work;
-    // Removed if the work does not come to its end.
-    std::vector<std::string> leftovers = {};
-    // Lines that are run then, to leave what was begun in order.
+    // Lines that are run if it does not come to its end, to leave what was begun in order.
     std::vector<std::string> repairs = {};
     // After the end of the work.
     std::function<void(const RunReport&)> afterwards = [](const RunReport&) {};

@@ -37,13 +37,15 @@ bool hasNoInodes(const fs::path& mountPoint) {
            figures.f_favail == 0;
 }
 
+constexpr const char* noInodesLeftOn = "no inodes left on ";
+
 std::string reasonText(const fs::path& path, int error) {
     const fs::path mountPoint = mountPointOf(path);
     switch (error) {
         case EROFS:
             return mountPoint.string() + " is read-only";
         case ENOSPC:
-            return (hasNoInodes(mountPoint) ? "no inodes left on " : "no space left on ") +
+            return (hasNoInodes(mountPoint) ? noInodesLeftOn : "no space left on ") +
                    mountPoint.string();
         case ELOOP:
             return "it is a link";
@@ -62,6 +64,13 @@ std::string reasonText(const fs::path& path, int error) {
 
 std::string failureText(std::string_view path, std::string_view verb, int error) {
     return std::string(path) + " cannot be " + std::string(verb) + ": " + reasonText(path, error);
+}
+
+std::string clarified(std::string words, std::string_view path) {
+    const fs::path mountPoint = mountPointOf(path);
+    if (words.find(std::strerror(ENOSPC)) != std::string::npos && hasNoInodes(mountPoint))
+        words += " (" + (noInodesLeftOn + mountPoint.string()) + ")";
+    return words;
 }
 
 }  // namespace tarnwick

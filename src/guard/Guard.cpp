@@ -15,8 +15,7 @@ Guard::Guard(const ItemCatalogue& catalogue, CommandRunner& runner, FileManager&
       files_(files, faults_, root_) {}
 
 void Guard::clearUp() {
-    places_.clearForeign();
-    places_.clearUnpacked();
+    places_.clear();
     for (const std::string_view list :
          {paths::savedSourcesList, paths::savedCydiaList, paths::savedPackages})
         KeptList(root_ + std::string(list)).recover();

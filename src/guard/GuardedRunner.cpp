@@ -122,7 +122,9 @@ void GuardedRunner::report(const std::string& line, int status) {
     if (LineWords(line).program() == "unzip" && status == unzipFoundDiskFull)
         faults_(failureText(paths::unpackedTree, "written", ENOSPC));
     else
-        faults_(lastWords.empty() ? line + ": " + textOfStatus(status) : lastWords);
+        faults_(lastWords.empty()
+                    ? line + ": " + textOfStatus(status)
+                    : clarified(lastWords, root_ + std::string(paths::scratchFolder)));
 }
 
 // The step before has failed then, and was reported: nothing was copied, or unpacked.

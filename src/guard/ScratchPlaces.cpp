@@ -45,6 +45,11 @@ ScratchPlaces::ScratchPlaces(const ItemCatalogue& catalogue, std::string root)
                 places_.push_back(root_ + path);
 }
 
+void ScratchPlaces::clear() const {
+    for (const std::string& place : places_)
+        removeAll(place);
+}
+
 void ScratchPlaces::clearForeign() const {
     for (const std::string& place : places_)
         if (isForeign(place))

@@ -17,9 +17,11 @@ public:
     // All paths are below the root.
     ScratchPlaces(const ItemCatalogue& catalogue, std::string root);
 
-    // Takes away, without following it, whatever is a link or another user's.
+    // Takes away, without following it, whatever stands there: a run that was cut off has left it.
+    void clear() const;
+    // The same, of what is a link or another user's.
     void clearForeign() const;
-    // Takes away what a run that was cut off had unpacked.
+    // The same, of what was unpacked.
     void clearUnpacked() const;
     // Makes the folder that the line would make in the folder of all users: nobody else can plant,
     // replace or redirect it from then on. Returns it; null if there is nothing to claim.

@@ -1,0 +1,152 @@
+#!/usr/bin/env bash
+# What is broken, what is run, how it ends, what it says, and what is on the disk then.
+# shellcheck source=tests/faults/faults_lib.sh disable=SC2016
+source "$(dirname "${BASH_SOURCE[0]}")/faults_lib.sh"
+# shellcheck source=tests/faults/on_phone.sh
+source "$(dirname "${BASH_SOURCE[0]}")/on_phone.sh"
+
+make_device
+
+# Tools.
+while IFS='|' read -r name verb kept <&3; do
+    for state in missing failing; do
+        tool "$name" "$state"
+        fault "$name is $state: $verb" : "$verb" 1 "$name" "$kept"
+    done
+    tool "$name" hanging
+    fault "$name hangs: $verb" : "$verb" 130 interrupted "$kept" until_it_hangs
+done 3<<'TOOLS'
+cp|save notes|untouched
+rm|save tweaks-prefs|kept
+zip|save notes|untouched
+unzip|restore notes|untouched && same_notes
+cp|restore notes|untouched && same_notes
+chown|restore notes|untouched && same_notes
+killall|restore notes|untouched && same_notes
+dpkg|save packages|untouched
+apt-get|restore packages|untouched
+TOOLS
+
+# Space. The earlier archives and lists stay, and what a restore cannot unpack it leaves alone.
+for left in 0 40 400 1200 2600; do
+    fault "$left KB are left: save" "head -c 2M /dev/urandom >$notes/big; fill $left" "save sources packages all" 1 "no space left" kept
+    fault "$left KB are left: restore" "head -c 3M /dev/urandom >$notes/big; tarnwick save notes; cp $notes/big /run; fill $left" \
+        "restore notes" 1 "no space left on /var" 'cmp /run/big $notes/big && no_strays'
+done
+fault "part of a copy is taken away again, which makes room" 'seq 9999 >$home/Preferences/a.plist
+    touch -d yesterday $home/Preferences/a.plist; tarnwick save tweaks-prefs; head -c 1M /dev/urandom >$archives/Voicemail.zip; fill 900' \
+    "save tweaks-prefs" 1 "no space left" 'unzip -p $archives/Preferences.zip "*/a.plist" | cmp $home/Preferences/a.plist'
+leave_no_inode
+fault "no inode is left: save" : "save sources packages all" 1 "no inodes left" untouched
+leave_no_inode
+fault "no inode is left: restore" : "restore notes" 1 "" 'untouched && same_notes'
+for verb in "save sources" "save packages" "save notes" "restore notes" "remove backups --yes"; do
+    make_read_only
+    fault "/var is read-only: $verb" : "$verb" 1 "read-only" 'untouched && same_notes'
+done
+for verb in list check storage "save all --dry-run"; do
+    make_read_only
+    fault "/var is read-only: $verb" : "$verb" 0 "" untouched
+done
+
+# What stands among the data.
+fault "a dangling link" 'ln -s /nowhere $notes/link' "save notes" 0 "done" kept
+fault "a loop of links" 'ln -s loop $notes/loop' "save notes" 0 "done" kept
+fault "a link to a folder" 'ln -s /var/wireless $notes/link' "save notes" 0 "done" kept
+fault "a pipe" 'mkfifo $notes/pipe' "save notes" 0 "done" kept
+fault "a socket" 'perl -MIO::Socket::UNIX -e "IO::Socket::UNIX->new(Local => shift, Listen => 1)" $notes/socket' "save notes" 0 "done" kept
+fault "a sparse file" 'truncate -s 300M $notes/sparse' "save notes" 0 "done" kept
+fault "20,000 files" '(cd $notes && seq 20000 | xargs touch)' "save notes" 0 "done" \
+    'kept && (($(unzip -l $archives/Notes.zip | wc -l) > 20000))'
+fault "hostile names" '(cd $notes && touch -- -rf $'"'"'new\nline'"'"' "\$(reboot)" "; reboot" $'"'"'\xff\xfe'"'"' "$(printf %0255d 0)")' \
+    "save notes" 0 "done" kept
+fault "a folder that is a file" 'rm -r $notes; touch $notes' "save notes" 0 "done" kept
+fault "a folder that is missing" 'rm -r $notes' "save notes" 1 "cannot stat" untouched
+
+# Plain files in the way.
+for folder in '$safe' '${sources%/*}' '${packages%/*}' '$archives'; do
+    fault "$folder is a file: folders" "rm -r $folder; touch $folder" folders 1 "" harmless
+    fault "$folder is a file: save" "rm -r $folder; touch $folder" "save sources packages notes" 1 "" harmless
+done
+fault "a staging copy is a file" 'touch $archives/Notes' "save notes" 0 "done" kept
+fault "the unpacked tree is a file" 'touch /var/tmp/var' "restore notes" 0 "done" 'kept && same_notes'
+
+# Archives.
+damages=('truncate -s 900 $zip' ': >$zip' 'seq 999 >$zip' 'truncate -s -20 $zip' 'ln -sf Notes.zip $zip'
+    'rm $zip; mkdir $zip')
+for damage in "${damages[@]}"; do
+    fault "$damage: check" "zip=$archives/Notes.zip; $damage" check 1 "Notes.zip" true
+    fault "$damage: restore" "zip=$archives/Notes.zip; $damage" "restore notes" 1 "" same_notes
+done
+fault "damaged data: check" 'damage $archives/Notes.zip' check 1 "Notes.zip: damaged" true
+fault "damaged data: restore" 'damage $archives/Notes.zip' "restore notes" 1 "bad CRC" no_strays
+fault "archives are missing" 'rm $archives/{SMS,Notes}.zip' check 1 "Notes.zip: missing" true
+tool unzip missing
+fault "nothing can test archives" : check 1 "cannot be tested" untouched
+fault "one archive spoilt, another restored" ': >$archives/SMS.zip' "restore messages notes" 1 "Notes Restoration: Restoration done !" same_notes
+
+# Scratch, stale or planted.
+fault "an unpacked tree is stale" 'mkdir -p /var/tmp/var$notes; touch /var/tmp/var$notes/stale' "restore notes" 0 "done" 'kept && same_notes'
+fault "a staging copy is stale" 'mkdir /var/tmp/Preferences; touch /var/tmp/Preferences/stale' "save tweaks-prefs" 0 "done" \
+    'kept && ! unzip -l $archives/Preferences.zip | grep stale'
+fault "nobody planted a staging copy" 'as nobody mkdir /var/tmp/Preferences
+    as nobody ln -s /etc/shadow /var/tmp/Preferences/com.apple.mobilephone.plist' "save tweaks-prefs" 0 "done" kept
+fault "nobody planted a link as a staging copy" 'as nobody ln -s /etc /var/tmp/Preferences' "save tweaks-prefs" 0 "done" kept
+fault "nobody planted an unpacked tree" 'as nobody mkdir -p /var/tmp/var/mobile/Library
+    as nobody ln -s /etc/shadow /var/tmp/var/mobile/Library/sms.db' "restore messages --then nothing" 0 "done" \
+    'kept && cmp $good/sms.db $home/SMS/sms.db'
+fault "nobody planted a link as an unpacked tree" 'as nobody ln -s /etc /var/tmp/var' "restore notes" 0 "done" 'kept && same_notes'
+fault "mobile planted a link in the way of a restore" 'as mobile ln -sf /etc/shadow $notes/notes.sqlite' "restore notes" 0 "done" \
+    'kept && same_notes'
+fault "mobile planted links for folders" 'rm -r $notes; as mobile ln -s /etc $notes' "restore notes" 1 "cannot overwrite" untouched
+
+# Lists.
+fault "a cache with somebody's rights" 'setid_program $cache' "save sources" 0 "done" harmless
+fault "a saved list with somebody's rights" 'setid_program ${sources%/*}/cydia.list; rm $cache' "restore sources" 0 "done" \
+    '! find $apt -perm /7000 | grep .'
+for list in '$cache|save sources' '$sources|restore sources' '$packages|restore packages' '$packages|save packages'; do
+    for kind in 'ln -s /dev/zero' 'ln -s /etc/shadow' mkfifo 'truncate -s 65M'; do
+        path=${list%|*} verb=${list#*|} status=1
+        [[ $verb != "save packages" ]] || status=0
+        fault "$kind $path: $verb" "rm $path; $kind $path" "$verb --then nothing" "$status" "" '! grep -r root: $safe $apt'
+    done
+done
+
+# Limits, streams and readers.
+for limit in '-n 8' '-n 12' '-n 16' '-f 40'; do
+    fault "ulimit $limit" "touch $notes/*; ulimit $limit" "save sources packages all" 1 "" whole_backup
+done
+for closed in '<&-' '>&-' '2>&-' '<&- >&- 2>&-'; do
+    fault "$closed" : "save sources packages all $closed" 0 "" kept
+done
+for reader in '2>&1 | true' '--verbose 2>&1 | true' '--verbose 2>&1 | head -n 1'; do
+    fault "save all $reader" 'rm $archives/*' "save all $reader" 0 "" kept
+    fault "restore all $reader" : "restore all --yes --then nothing $reader" 0 "" 'kept && same_notes'
+done
+while read -r verb <&3; do
+    fault "/dev/full: $verb" : "$verb >/dev/full" 1 "" kept
+done 3<<'VERBS'
+save sources packages all
+restore sources
+restore notes
+list
+check
+size notes
+storage
+folders
+remove sources-list --yes
+faq
+--help
+--version
+VERBS
+
+# Nothing to do it with.
+fault "no package can be saved" 'rm -r ${packages%/*}; touch ${packages%/*}' "save packages" 1 "" true
+fault "there is no source" 'rm $cache; rm -f $apt/*' "save sources" 1 "" 'same_lists && no_strays'
+fault "there is no archive" 'rm $archives/*' "restore all --yes" 1 "there is no archive to restore" true
+fault "neither backup nor cache" 'rm $cache ${sources%/*}/*' "restore sources --yes" 1 "no saved list of sources" true
+fault "a package cannot be installed" 'echo "org.example.gone install" >>$packages' "restore packages" 1 "not installed: org.example.gone" true
+fault "another run is under way" 'exec 7<>/var/lib/tarnwick.lock; flock 7' "save notes" 3 "another run" untouched
+fault "the run before was killed" 'printf "%-255s\n" "-save photos" >/var/lib/tarnwick.lock' "list" 0 "cut off: save photos" untouched
+fault "not root" 'tarnwick() { as mobile tarnwick "$@"; }' "save notes" 4 "root" untouched
+end_table
