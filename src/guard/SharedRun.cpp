@@ -27,7 +27,7 @@ LeftRun SharedRun::takeLeft() {
     const RunLock lock(lockPath_);
     if (lock.state() != RunLock::State::Held)
         return {};
-    const LeftRun left = lock.left();
+    LeftRun left = lock.left();
     lock.clear();
     return left;
 }

@@ -7,7 +7,6 @@ times=$1
 RANDOM=$2
 signals=(TERM INT HUP QUIT PIPE USR1 USR2 ALRM)
 
-save() { tarnwick save sources packages all >/dev/null 2>&1; }
 microseconds() { echo "${EPOCHREALTIME/[.,]/}"; }
 
 # Every save has something to write.
@@ -26,7 +25,7 @@ tree_of() {
     done
 }
 
-has_ended() { ! killall -q -0 tarnwick zip cp dpkg; }
+has_ended() { ! ps -C tarnwick,zip,cp,rm,dpkg >/dev/null; }
 
 kill_all() { tree_of "$1" | xargs kill -KILL; }
 signal_one() { kill -"${signals[RANDOM % ${#signals[@]}]}" "$(tree_of "$1" | shuf -n 1 --random-source=<(yes "$RANDOM"))"; }
@@ -52,13 +51,13 @@ row() {
     local run lost=0 spoilt=0 emptied=0 failed=0 strays=0 time
     for ((time = 0; time < times; time++)); do
         change_data
-        save & run=$!
+        tarnwick save sources packages all >/dev/null 2>&1 & run=$!
         sleep "$(printf '%d.%06d' 0 "$((RANDOM * duration / 32768))")"
         "$2" "$run" 2>/dev/null
         wait "$run" 2>/dev/null
         until has_ended; do sleep 0.01; done
         look
-        save && kept >/dev/null && [[ ! -e $sources.previous ]] || ((failed += 1))
+        tarnwick save sources packages all >/dev/null 2>&1 && kept >/dev/null && [[ ! -e $sources.previous ]] || ((failed += 1))
         no_strays >/dev/null || ((strays += 1))
     done
     printf '%-16s %5d %5d %7d %14d %20d %7d\n' "$1" "$times" "$lost" "$spoilt" "$emptied" "$failed" "$strays"
@@ -68,7 +67,7 @@ row() {
 make_good >/dev/null
 begin=$(microseconds)
 change_data
-save
+tarnwick save sources packages all >/dev/null
 duration=$(($(microseconds) - begin))
 printf 'a save takes %d ms, seed %d\n' "$((duration / 1000))" "$2"
 printf '%-16s %5s %5s %7s %14s %20s %7s\n' '' times lost spoilt 'lists emptied' 'next run not good' strays

@@ -82,7 +82,7 @@ public:
 
     // What presented the controller goes without dismissing it, and so does its sheet. The program
     // may end once the task is called: a controller with something to keep calls it afterwards.
-    virtual void presentationWillBeCutShort(std::function<void()> whenKept) { whenKept(); }
+    virtual void presentationWillBeCutShort(const std::function<void()>& whenKept) { whenKept(); }
 
     // Whether a container leaves space for the status bar at the top of a Flickable.
     bool automaticallyAdjustsScrollViewInsets = true;

@@ -125,12 +125,12 @@ void MailComposeViewController::closeQuestion() {
         window->alerts().dismiss(question_, 0, Animated::No);
 }
 
-void MailComposeViewController::presentationWillBeCutShort(std::function<void()> whenKept) {
+void MailComposeViewController::presentationWillBeCutShort(const std::function<void()>& whenKept) {
     closeQuestion();
     // The system's mailer sends on without the program.
     if (underWay_ == MailComposeResultSent)
         return whenKept();
-    whenFinished_ = std::move(whenKept);
+    whenFinished_ = whenKept;
     if (isDeleted_ || isUntouched())
         finish(MailComposeResultCancelled, {});
     else

@@ -54,7 +54,7 @@ public:
     void addAttachmentData(const QByteArray& data, const QString& mimeType,
                            const QString& fileName);
 
-    void presentationWillBeCutShort(std::function<void()> whenKept) override;
+    void presentationWillBeCutShort(const std::function<void()>& whenKept) override;
     void alertClickedButtonAtIndex(const Alert& alert, int index) override;
     void alertDidDismissWithButtonIndex(const Alert& alert, int index) override;
 

@@ -90,14 +90,14 @@ void ModalPresentation::end() {
         stage_.forceActiveFocus(Qt::OtherFocusReason);
 }
 
-void ModalPresentation::cutShort(std::function<void()> whenKept) {
+void ModalPresentation::cutShort(const std::function<void()>& whenKept) {
     end();  // one that still slides away
     const auto cut = std::exchange(presented_, nullptr);
     if (!cut)
         return whenKept();
     if (presenter_)
         presenter_->disconnect(this);
-    cut->presentationWillBeCutShort(std::move(whenKept));
+    cut->presentationWillBeCutShort(whenKept);
     leaving_ = cut;
     end();
 }

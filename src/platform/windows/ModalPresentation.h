@@ -34,7 +34,7 @@ public:
 
     // A sheet that is up vanishes. The task is called when its controller has kept what is to be
     // kept; at once if nothing is up.
-    void cutShort(std::function<void()> whenKept = [] {});
+    void cutShort(const std::function<void()>& whenKept = [] {});
 
     // What is up; none if nothing is, or if it is going.
     const std::shared_ptr<ViewController>& presented() const { return presented_; }
