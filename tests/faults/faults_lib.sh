@@ -10,10 +10,11 @@ failures=0
 cases=0
 export DEVICE_SHARE=$repository/tests/faults
 
-# The device's data is on a file system of its own, its programs are copies.
+# The device's data is on a file system of its own, its programs are copies: of the command alone, as every case makes new ones.
 make_device() {
-    mkdir -p "$workspace/build"
-    cp -a "$DEVICE_BUILD"/{bin,lib,libexec} "$workspace/build"
+    mkdir -p "$workspace/build/bin"
+    cp -a "$DEVICE_BUILD/bin/tarnwick" "$workspace/build/bin"
+    cp -a "$DEVICE_BUILD"/{lib,libexec} "$workspace/build"
     cp -a "$workspace/build" "$workspace/good-build"
     export DEVICE_BUILD=$workspace/build
     device new "$phone"
@@ -37,8 +38,11 @@ mend_all() {
 # tool NAME missing|failing|hanging: once, as what ends a run may need it again.
 tool() {
     local path=$phone/usr/bin/$1
-    [[ $1 != zip ]] || rm -f "$workspace/build/libexec/tarnwick/bin/zip"
-    mkdir -p "$phone/usr/bin"
+    case $1 in
+        zip) rm -f "$workspace/build/libexec/tarnwick/bin/zip" ;;
+        sendmail) path=$phone/usr/sbin/sendmail ;;
+    esac
+    mkdir -p "${path%/*}"
     case $2 in
         missing) mknod "$path" c 0 0 ;; # how an overlay notes that a file is gone
         failing) printf '#!/bin/sh\necho "%s: broken" >&2\nexit 9\n' "$1" >"$path" ;;
@@ -52,11 +56,12 @@ make_read_only() { mount -o remount,ro "$phone/var"; }
 
 # fault NAME BREAK VERB STATUS TOLD KEPT: after the command BREAK, `tarnwick VERB` ends with the status and says a line with TOLD;
 # KEPT holds afterwards. BREAK and KEPT are run on the device, see on_phone.sh. VERB may have redirections. A sixth argument is what
-# runs the command.
+# runs the command. A device that hangs is ended.
 fault() {
     local output
     cases=$((cases + 1))
-    output=$(on_phone bash -c 'source /mnt/share/on_phone.sh; run_case "$@"' - "${@:2}" </dev/null 2>&1) || failures=$((failures + 1))
+    output=$(timeout 30 "$repository/device/device" boot "$phone" bash -c 'source /mnt/share/on_phone.sh; run_case "$@"' - "${@:2}" </dev/null 2>&1) ||
+        failures=$((failures + 1))
     case $output in
         *'not ok'*) printf 'not ok: %s\n%s\n' "$1" "$output" ;;
         ok) printf 'ok: %s\n' "$1" ;;

@@ -25,7 +25,21 @@ chown|restore notes|untouched && same_notes
 killall|restore notes|untouched && same_notes
 dpkg|save packages|untouched
 apt-get|restore packages|untouched
+sendmail|mail --to somebody@example.org|untouched
 TOOLS
+tool rm failing
+fault "rm is failing: restore" : "restore notes" 1 "rm" same_notes
+tool sh missing
+fault "there is no shell" : "save notes packages" 1 "status 127" untouched
+rm "$workspace/build/libexec/tarnwick/bin/zip"
+fault "the system's zip takes over" 'touch $notes/new' "save notes" 0 "done" 'kept && unzip -l $archives/Notes.zip | grep -q new'
+tool zip hanging
+fault "zip hangs: size" 'rm $archives/Notes.zip' "size notes" 130 interrupted no_strays until_it_hangs
+tool unzip hanging
+fault "unzip hangs: check" : check 130 interrupted untouched until_it_hangs
+tool killall missing
+fault "killall is missing: respring" : "respring --yes" 1 killall untouched
+fault "reboot is missing" 'rm /sbin/reboot' "reboot --yes" 1 reboot untouched
 
 # Space. The earlier archives and lists stay, and what a restore cannot unpack it leaves alone.
 for left in 0 40 400 1200 2600; do
@@ -36,6 +50,8 @@ done
 fault "part of a copy is taken away again, which makes room" 'seq 9999 >$home/Preferences/a.plist
     touch -d yesterday $home/Preferences/a.plist; tarnwick save tweaks-prefs; head -c 1M /dev/urandom >$archives/Voicemail.zip; fill 900' \
     "save tweaks-prefs" 1 "no space left" 'unzip -p $archives/Preferences.zip "*/a.plist" | cmp $home/Preferences/a.plist'
+fault "500 KB are left: size" 'rm $archives/Notes.zip; head -c 2M /dev/urandom >$notes/big; fill 500' "size notes" 1 \
+    "no space left" no_strays
 leave_no_inode
 fault "no inode is left: save" : "save sources packages all" 1 "no inodes left" untouched
 leave_no_inode
@@ -60,12 +76,19 @@ fault "20,000 files" '(cd $notes && seq 20000 | xargs touch)' "save notes" 0 "do
     'kept && (($(unzip -l $archives/Notes.zip | wc -l) > 20000))'
 fault "hostile names" '(cd $notes && touch -- -rf $'"'"'new\nline'"'"' "\$(reboot)" "; reboot" $'"'"'\xff\xfe'"'"' "$(printf %0255d 0)")' \
     "save notes" 0 "done" kept
+fault "odd names come back" '(cd $notes && touch -- -rf -@ "\$(reboot)" "; reboot" "a\\b" "[x]" "*" é "$(printf %0255d 0)")
+    cp -a $notes /run; tarnwick save notes; rm -r $notes' "restore notes" 0 "done" 'diff -r /run/Notes $notes'
 fault "a folder that is a file" 'rm -r $notes; touch $notes' "save notes" 0 "done" kept
 fault "a folder that is missing" 'rm -r $notes' "save notes" 1 "cannot stat" untouched
 
-# Plain files in the way.
+# Plain files in the way. One hides no other.
+fault "\$safe is a file: folders" 'rm -r $safe; touch $safe' folders 1 "cannot be made: Not a directory" '[[ -f $safe ]]'
+for folder in '${sources%/*}' '${packages%/*}' '$archives'; do
+    fault "$folder is a file: folders" "rm -r $safe/*; touch $folder" folders 1 "cannot be made" \
+        '(($(find $safe -mindepth 1 -type d | wc -l) == 2))'
+done
 for folder in '$safe' '${sources%/*}' '${packages%/*}' '$archives'; do
-    fault "$folder is a file: folders" "rm -r $folder; touch $folder" folders 1 "" harmless
+    fault "$folder is a file: list" "rm -r $folder; touch $folder" list 1 "cannot be read: Not a directory" harmless
     fault "$folder is a file: save" "rm -r $folder; touch $folder" "save sources packages notes" 1 "" harmless
 done
 fault "a staging copy is a file" 'touch $archives/Notes' "save notes" 0 "done" kept
@@ -80,7 +103,8 @@ for damage in "${damages[@]}"; do
 done
 fault "damaged data: check" 'damage $archives/Notes.zip' check 1 "Notes.zip: damaged" true
 fault "damaged data: restore" 'damage $archives/Notes.zip' "restore notes" 1 "bad CRC" no_strays
-fault "archives are missing" 'rm $archives/{SMS,Notes}.zip' check 1 "Notes.zip: missing" true
+fault "archives are missing" 'rm $archives/{SMS,Notes}.zip' check 1 $'SMS.zip: missing\nNotes.zip: missing' true
+fault "garbage: save" 'seq 999 >$archives/Notes.zip' "save notes" 0 "done" 'whole_backup && cmp <(seq 999) $archives/Notes.zip.damaged'
 tool unzip missing
 fault "nothing can test archives" : check 1 "cannot be tested" untouched
 fault "one archive spoilt, another restored" ': >$archives/SMS.zip' "restore messages notes" 1 "Notes Restoration: Restoration done !" same_notes
@@ -96,6 +120,12 @@ fault "nobody planted an unpacked tree" 'as nobody mkdir -p /var/tmp/var/mobile/
     as nobody ln -s /etc/shadow /var/tmp/var/mobile/Library/sms.db' "restore messages --then nothing" 0 "done" \
     'kept && cmp $good/sms.db $home/SMS/sms.db'
 fault "nobody planted a link as an unpacked tree" 'as nobody ln -s /etc /var/tmp/var' "restore notes" 0 "done" 'kept && same_notes'
+for kind in mkfifo touch 'ln -s /dev/zero'; do
+    fault "nobody planted scratch: $kind" "as nobody $kind /var/tmp/var; as nobody $kind /var/tmp/Preferences" \
+        "restore notes tweaks-prefs" 0 "done" 'kept && same_notes'
+    fault "nobody planted an archive: $kind" "rm \$archives/Notes.zip; as nobody $kind /var/tmp/Notes.zip" "size notes" 0 "size" \
+        no_strays
+done
 fault "mobile planted a link in the way of a restore" 'as mobile ln -sf /etc/shadow $notes/notes.sqlite' "restore notes" 0 "done" \
     'kept && same_notes'
 fault "mobile planted links for folders" 'rm -r $notes; as mobile ln -s /etc $notes' "restore notes" 1 "cannot overwrite" untouched
@@ -111,11 +141,16 @@ for list in '$cache|save sources' '$sources|restore sources' '$packages|restore 
         fault "$kind $path: $verb" "rm $path; $kind $path" "$verb --then nothing" "$status" "" '! grep -r root: $safe $apt'
     done
 done
+for kind in 'ln -s /dev/zero' 'ln -s /etc/shadow' mkfifo 'truncate -s 65M'; do
+    fault "$kind cydia.list" 'rm $cache; '"$kind"' ${sources%/*}/cydia.list' "restore sources --yes" 1 "cannot be read" \
+        '! grep -r root: $safe $apt'
+done
 
 # Limits, streams and readers.
 for limit in '-n 8' '-n 12' '-n 16' '-f 40'; do
     fault "ulimit $limit" "touch $notes/*; ulimit $limit" "save sources packages all" 1 "" whole_backup
 done
+fault "ulimit -n 12: restore" 'ulimit -n 12' "restore all --yes" 1 "" 'whole_backup && same_notes'
 for closed in '<&-' '>&-' '2>&-' '<&- >&- 2>&-'; do
     fault "$closed" : "save sources packages all $closed" 0 "" kept
 done
@@ -129,8 +164,13 @@ done 3<<'VERBS'
 save sources packages all
 restore sources
 restore notes
+restore packages
+restore all --yes
+save all --dry-run
 list
+list --json
 check
+check --json
 size notes
 storage
 folders
@@ -147,6 +187,10 @@ fault "there is no archive" 'rm $archives/*' "restore all --yes" 1 "there is no 
 fault "neither backup nor cache" 'rm $cache ${sources%/*}/*' "restore sources --yes" 1 "no saved list of sources" true
 fault "a package cannot be installed" 'echo "org.example.gone install" >>$packages' "restore packages" 1 "not installed: org.example.gone" true
 fault "another run is under way" 'exec 7<>/var/lib/tarnwick.lock; flock 7' "save notes" 3 "another run" untouched
+for kind in mkdir 'ln -s /etc/shadow'; do
+    fault "the lock: $kind" "rm /var/lib/tarnwick.lock; $kind /var/lib/tarnwick.lock" "save notes" 1 \
+        "cannot tell whether another run" untouched
+done
 fault "the run before was killed" 'printf "%-255s\n" "-save photos" >/var/lib/tarnwick.lock' "list" 0 "cut off: save photos" untouched
 fault "not root" 'tarnwick() { as mobile tarnwick "$@"; }' "save notes" 4 "root" untouched
 end_table
