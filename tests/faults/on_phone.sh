@@ -35,6 +35,7 @@ whole() { unzip -tqq "$1" >/dev/null 2>&1 || { echo "spoilt: $1"; return 1; }; }
 untouched() { diff -r "$good/TarnwickLibrary" "$archives" && same_lists && no_strays; }
 same_lists() { cmp "$good/sources.list" "$sources" && cmp "$good/installed-packages.txt" "$packages"; }
 same_notes() { diff -r "$good/Notes" "$notes"; }
+has_pictures() { [[ -n $(find /var/mobile/Media/DCIM -type f) ]]; }
 no_strays() {
     local strays
     strays=$(find /var/tmp "$archives" -mindepth 1 ! -name '*.zip'; find "$safe" -name '*.previous' -o -name '*.unfinished')

@@ -193,4 +193,28 @@ for kind in mkdir 'ln -s /etc/shadow'; do
 done
 fault "the run before was killed" 'printf "%-255s\n" "-save photos" >/var/lib/tarnwick.lock' "list" 0 "cut off: save photos" untouched
 fault "not root" 'tarnwick() { as mobile tarnwick "$@"; }' "save notes" 4 "root" untouched
+
+# Whatever is in the way, a run ends.
+fault "a pipe in the way of a restore" 'rm $notes/notes.sqlite; as mobile mkfifo $notes/notes.sqlite' "restore notes" 0 "done" same_notes
+for verb in check "restore notes --then nothing"; do
+    fault "an archive is a pipe: $verb" 'rm $archives/Notes.zip; mkfifo $archives/Notes.zip' "$verb" 1 "" true
+done
+fault "no file may be written" 'ulimit -f 0' "save notes packages" 1 "" untouched
+
+# What a person has stays.
+for verb in "save notes" "save photos" "restore sources"; do
+    fault "the archives lie among the pictures: $verb" 'rm -r $archives; ln -s /var/mobile/Media $archives' "$verb; true" 0 "" \
+        has_pictures
+done
+fault "a folder where the list is kept" 'mkdir $packages.previous; ln -s /bin/false /usr/local/bin/dpkg' "save packages" 1 "" \
+    same_lists
+for saved in : 'mkfifo $sources'; do
+    fault "the own sources, and of the saved $saved" "echo deb >\$apt/TWKSources.list; rm \$sources; $saved" "restore sources" 1 "" \
+        'grep deb $apt/TWKSources.list'
+done
+fault "the sources, but no list that can be read" 'rm $cache; echo deb >$apt/cydia.list; mkfifo ${sources%/*}/cydia.list' "restore sources" 1 \
+    "cannot be read" 'grep deb $apt/cydia.list'
+fault "a good archive of another user" 'chmod 600 $archives/Notes.zip' "check notes" 1 "cannot be tested" true "as mobile"
+fault "a link to what its owner may not read" 'as mobile ln -s /etc/shadow $notes/link' "save notes" 0 "" \
+    '[[ -z $(unzip -p $archives/Notes.zip "*/link" | grep root:) ]]'
 end_table
