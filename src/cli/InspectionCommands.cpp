@@ -98,6 +98,8 @@ std::string verdictOf(int status) {
 std::string verdictOn(Session& session, const std::string& path) {
     if (!session.files().exists(path))
         return "missing";
+    if (!session.files().isReadable(path))
+        return "cannot be tested";
     return verdictOf(session.archiveTester().run("/usr/bin/unzip -tqq " + path));
 }
 

@@ -51,28 +51,33 @@ bool has(const std::vector<std::string>& words, std::string_view word) {
     return std::find(words.begin(), words.end(), word) != words.end();
 }
 
-// A restore without Cydia's cache deletes its list before it copies the saved one.
-bool onlyDeletesSources(const FileReader& files) {
-    return !files.exists(paths::cydiaCacheList) && !files.exists(paths::savedCydiaList) &&
-           files.exists(paths::cydiaAptList);
+// What a restore of the sources reads, and the list that it empties or deletes first: with Cydia's
+// cache, or without.
+struct SourceLists {
+    std::string_view saved;
+    std::string_view replaced;
+};
+
+SourceLists sourceListsOf(const FileReader& files) {
+    if (!files.exists(paths::cydiaCacheList))
+        return {paths::savedCydiaList, paths::cydiaAptList};
+    const bool hasSources = files.exists(paths::savedSourcesList);
+    return {hasSources ? paths::savedSourcesList : paths::savedCydiaList, paths::ownAptList};
 }
 
-Alert deletionQuestion() {
+Alert lossQuestion(const SourceLists& lists) {
     return {.title = "Cydia Sources Restoration",
-            .message = "There is no saved " + paths::nameOf(paths::savedCydiaList) +
-                       ": this deletes " + std::string(paths::cydiaAptList) +
+            .message = "There is no saved " + paths::nameOf(lists.saved) +
+                       " that can be read: this deletes what is in " + std::string(lists.replaced) +
                        " and puts nothing in its place.",
             .otherButtonTitles = {"Delete it"},
             .kind = AlertKind::Question};
 }
 
 // What the operations do not report: that there is nothing to put back.
-std::vector<std::string> missingBackups(const FileReader& files, const Plan& plan,
+std::vector<std::string> missingBackups(bool hasSources, const Plan& plan,
                                         const std::vector<std::string>& words) {
     std::vector<std::string> missing;
-    const bool hasSources =
-        files.exists(paths::savedCydiaList) ||
-        (files.exists(paths::cydiaCacheList) && files.exists(paths::savedSourcesList));
     if (has(words, "sources") && !hasSources)
         missing.emplace_back("there is no saved list of sources to put back");
     if (has(words, everyItem) && plan.empty())
@@ -132,12 +137,14 @@ ExitStatus restoreTargets(Session& session, const std::vector<std::string>& word
     });
     session.feedback().setPlan(plan);
     Steps steps;
-    if (has(words, "sources") && onlyDeletesSources(session.files()))
-        if (const auto refused = session.refusal(deletionQuestion()))
+    const SourceLists lists = sourceListsOf(session.files());
+    const bool hasSources = has(words, "sources") && session.files().readText(lists.saved);
+    if (has(words, "sources") && !hasSources && session.files().exists(lists.replaced))
+        if (const auto refused = session.refusal(lossQuestion(lists)))
             return *refused;
     if (const auto refused = addRestoreSteps(session, words, steps))
         return *refused;
-    const auto missing = missingBackups(session.files(), plan, words);
+    const auto missing = missingBackups(hasSources, plan, words);
     const bool installsPackages = has(words, "packages");
     const auto work = [&] {
         for (const auto& step : steps)

@@ -50,6 +50,8 @@ bool prepareForCommands() {
     fillStandardDescriptors();
     // Commands inherit this: a reader that goes away must not stop them half-way.
     std::signal(SIGPIPE, SIG_IGN);
+    // A limit to the size of files is an error like a full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
     // Options that the caller set for these tools could make archives that no restore can use.
     for (const char* options : {"ZIP", "ZIPOPT", "UNZIP", "UNZIPOPT"})
         ::unsetenv(options);

@@ -18,6 +18,8 @@ public:
 
     // Follows links: a dangling one does not exist. Any kind of file counts.
     virtual bool exists(std::string_view path) const = 0;
+    // Whether it is a regular file, or a link to one, that may be read.
+    virtual bool isReadable(std::string_view path) const = 0;
     // The names in a folder, in the file system's own order; null if it cannot be listed.
     virtual std::optional<std::vector<std::string>> list(std::string_view path) const = 0;
     // The whole text of a file; null unless it can be read and is valid UTF-8 (EILSEQ).

@@ -39,7 +39,7 @@ bool failed(int reason) {
 }
 
 // Whether this is a file of a size that can be read into memory: not a device that never ends.
-bool isReadable(int descriptor) {
+bool canBeRead(int descriptor) {
     struct stat status = {};
     if (::fstat(descriptor, &status) != 0)
         return false;
@@ -108,6 +108,11 @@ bool SystemFileManager::exists(std::string_view path) const {
     return statusOf(placed(path)).has_value();
 }
 
+bool SystemFileManager::isReadable(std::string_view path) const {
+    const auto status = statusOf(placed(path));
+    return status && S_ISREG(status->st_mode) && ::access(placed(path).c_str(), R_OK) == 0;
+}
+
 std::optional<std::vector<std::string>> SystemFileManager::list(std::string_view path) const {
     std::error_code error;
     std::vector<std::string> names;
@@ -135,7 +140,7 @@ std::optional<std::string> SystemFileManager::readData(std::string_view path) co
     // folder could lead to what the owner may not read.
     const Descriptor file(
         ::open(placed(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW));
-    if (!file.isOpen() || !isReadable(file.number()))
+    if (!file.isOpen() || !canBeRead(file.number()))
         return std::nullopt;
     return readAll(file.number());
 }

@@ -12,6 +12,7 @@ public:
     explicit SystemFileManager(std::string root = {});
 
     bool exists(std::string_view path) const override;
+    bool isReadable(std::string_view path) const override;
     std::optional<std::vector<std::string>> list(std::string_view path) const override;
     std::optional<std::string> readText(std::string_view path) const override;
     std::optional<std::string> readData(std::string_view path) const override;

@@ -10,9 +10,10 @@ Guard::Guard(const ItemCatalogue& catalogue, CommandRunner& runner, FileManager&
              FaultListener faults, std::string root)
     : faults_(std::move(faults)),
       root_(std::move(root)),
-      places_(catalogue, root_),
+      data_(catalogue, root_),
+      places_(catalogue, data_, root_),
       runner_(runner, places_, faults_, root_),
-      files_(files, faults_, root_) {}
+      files_(files, data_, faults_, root_) {}
 
 void Guard::clearUp() {
     places_.clear();

@@ -32,6 +32,7 @@ public:
 private:
     FaultListener faults_;
     const std::string root_;
+    const LiveData data_;
     const ScratchPlaces places_;
     GuardedRunner runner_;
     GuardedFiles files_;

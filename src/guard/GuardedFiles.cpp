@@ -26,11 +26,16 @@ bool isReadingFault(int error, const std::string& source) {
 
 }  // namespace
 
-GuardedFiles::GuardedFiles(FileManager& files, const FaultListener& faults, std::string root)
-    : files_(files), faults_(faults), root_(std::move(root)) {}
+GuardedFiles::GuardedFiles(FileManager& files, const LiveData& data, const FaultListener& faults,
+                           std::string root)
+    : files_(files), data_(data), faults_(faults), root_(std::move(root)) {}
 
 bool GuardedFiles::exists(std::string_view path) const {
     return files_.exists(path);
+}
+
+bool GuardedFiles::isReadable(std::string_view path) const {
+    return files_.isReadable(path);
 }
 
 std::optional<std::vector<std::string>> GuardedFiles::list(std::string_view path) const {
@@ -65,8 +70,12 @@ std::int64_t GuardedFiles::fileSystemFreeSize(std::string_view path) const {
 }
 
 bool GuardedFiles::remove(std::string_view path) {
-    if (isSavedList(path))
-        KeptList(root_ + std::string(path)).keep();
+    if (isSavedList(path) && !KeptList(root_ + std::string(path)).keep())
+        return reported(false, path, "removed");
+    if (data_.isWhole(path)) {
+        faults_(std::string(path) + " is not removed: it leads to the data itself");
+        return false;
+    }
     const bool done = files_.remove(path);
     reported(done || errno == ENOENT, path, "removed");
     return done;

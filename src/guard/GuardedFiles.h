@@ -4,6 +4,7 @@
 
 #include "core/FileManager.h"
 #include "guard/KeptList.h"
+#include "guard/LiveData.h"
 
 namespace tarnwick {
 
@@ -11,9 +12,11 @@ namespace tarnwick {
 // paths are below the root.
 class GuardedFiles : public FileManager {
 public:
-    GuardedFiles(FileManager& files, const FaultListener& faults, std::string root);
+    GuardedFiles(FileManager& files, const LiveData& data, const FaultListener& faults,
+                 std::string root);
 
     bool exists(std::string_view path) const override;
+    bool isReadable(std::string_view path) const override;
     std::optional<std::vector<std::string>> list(std::string_view path) const override;
     std::optional<std::string> readText(std::string_view path) const override;
     std::optional<std::string> readData(std::string_view path) const override;
@@ -32,6 +35,7 @@ private:
     bool settled(bool done, std::string_view list);
 
     FileManager& files_;
+    const LiveData& data_;
     const FaultListener& faults_;
     const std::string root_;
 };

@@ -35,6 +35,12 @@ bool mayFail(const LineWords& words, int status) {
            (words.program() == "unzip" && status == unzipWarned);
 }
 
+// To open a pipe, a command would wait for ever.
+bool isNoFile(const std::string& path) {
+    struct stat status = {};
+    return ::stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode);
+}
+
 bool copiesBack(const LineWords& words) {
     return words.program() == "cp" && words.operand().starts_with(paths::unpackedTree);
 }
@@ -69,6 +75,10 @@ int GuardedRunner::run(const std::string& line) {
 int GuardedRunner::runInPlace(const std::string& line) {
     places_.clearForeign();
     const LineWords words(line);
+    if (words.program() == "unzip" && isNoFile(root_ + words.operandOf("-d"))) {
+        faults_(failureText(words.operandOf("-d"), "read", ENOTSUP));
+        return notRun;
+    }
     const bool isIdle = hasNothingToWorkOn(words);
     if (copiesBack(words) && !isIdle)
         removeLinksInTheWay(root_ + words.operand(), root_ + copyOf(words));
@@ -99,7 +109,10 @@ void GuardedRunner::discardPartialResult(const LineWords& words, int status,
 // The shell empties the list before it knows whether there will be another.
 int GuardedRunner::runIntoList(const std::string& line, const std::string& list) {
     const KeptList kept(root_ + list);
-    kept.moveAside();
+    if (!kept.moveAside()) {
+        faults_(failureText(list, "replaced", errno));
+        return notRun;
+    }
     runner_.takeLastWords();
     const int status = runner_.run(line);
     if (status != 0)

@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <filesystem>
 #include <utility>
@@ -20,17 +21,23 @@ bool isList(const std::string& path) {
 
 KeptList::KeptList(std::string path) : path_(std::move(path)), kept_(path_ + ".previous") {}
 
-void KeptList::keep() const {
+// No list of ours: something else of that name.
+void KeptList::makeRoom() const {
     std::error_code ignored;
-    if (isList(path_))
-        std::filesystem::create_hard_link(path_, kept_, ignored);
+    if (!isList(kept_))
+        std::filesystem::remove_all(kept_, ignored);
 }
 
-void KeptList::moveAside() const {
+bool KeptList::keep() const {
+    makeRoom();
+    return !isList(path_) || ::link(path_.c_str(), kept_.c_str()) == 0 || errno == EEXIST;
+}
+
+bool KeptList::moveAside() const {
+    makeRoom();
     if (isList(path_))
-        ::rename(path_.c_str(), kept_.c_str());
-    else
-        ::unlink(path_.c_str());
+        return ::rename(path_.c_str(), kept_.c_str()) == 0;
+    return ::unlink(path_.c_str()) == 0 || errno == ENOENT;
 }
 
 bool KeptList::settle(bool isWhole) const {

@@ -13,9 +13,10 @@ class KeptList {
 public:
     explicit KeptList(std::string path);
 
-    // Keeps a list that is not empty, under another name as well, or only under that.
-    void keep() const;
-    void moveAside() const;
+    // Keeps a list that is not empty, under another name as well, or only under that. Returns
+    // whether it could be kept, or there was none.
+    bool keep() const;
+    bool moveAside() const;
     // Puts the kept list back, unless a new one has been written whole that is not empty. Returns
     // whether one was put back.
     bool settle(bool isWhole) const;
@@ -23,6 +24,8 @@ public:
     bool recover() const;
 
 private:
+    void makeRoom() const;
+
     const std::string path_;
     const std::string kept_;
 };

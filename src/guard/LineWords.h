@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <iterator>
 #include <optional>
 #include <sstream>
 #include <string>
@@ -22,6 +24,11 @@ public:
     const std::string& last() const { return words_.back(); }
     // The last word but one: what is copied.
     const std::string& operand() const { return words_[words_.size() - 2]; }
+    // The word before an option.
+    std::string operandOf(std::string_view option) const {
+        const auto found = std::find(words_.begin(), words_.end(), option);
+        return found == words_.begin() || found == words_.end() ? "" : *std::prev(found);
+    }
     // The file after a redirection; null without that.
     std::optional<std::string> after(std::string_view redirection) const {
         for (std::size_t index = 0; index + 1 < words_.size(); ++index)

@@ -17,7 +17,7 @@ void removeLinksInTheWay(const std::string& tree, const std::string& target) {
         const auto type = fs::symlink_status(counterpart, ignored).type();
         if (isFolder && type != fs::file_type::directory)
             entry.disable_recursion_pending();
-        else if (!isFolder && type == fs::file_type::symlink)
+        else if (!isFolder && type != fs::file_type::regular && type != fs::file_type::directory)
             fs::remove(counterpart, ignored);
     }
 }

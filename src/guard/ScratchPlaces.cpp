@@ -22,11 +22,6 @@ bool isForeign(const std::string& path) {
            (S_ISLNK(status.st_mode) || status.st_uid != ::geteuid());
 }
 
-void removeAll(const std::string& path) {
-    std::error_code ignored;
-    std::filesystem::remove_all(path, ignored);
-}
-
 std::optional<mode_t> modeOfFolder(const std::string& path) {
     struct stat status = {};
     if (::stat(path.c_str(), &status) != 0 || !S_ISDIR(status.st_mode))
@@ -36,28 +31,34 @@ std::optional<mode_t> modeOfFolder(const std::string& path) {
 
 }  // namespace
 
-ScratchPlaces::ScratchPlaces(const ItemCatalogue& catalogue, std::string root)
-    : root_(std::move(root)) {
-    places_.push_back(root_ + std::string(paths::unpackedTree));
+ScratchPlaces::ScratchPlaces(const ItemCatalogue& catalogue, const LiveData& data, std::string root)
+    : data_(data), root_(std::move(root)) {
+    places_.emplace_back(paths::unpackedTree);
     for (const BackupItem& item : catalogue)
         for (const auto* paths : {&item.stagingPaths, &item.sizeCopyPaths, &item.sizeArchivePaths})
             for (const std::string& path : *paths)
-                places_.push_back(root_ + path);
+                places_.push_back(path);
+}
+
+void ScratchPlaces::remove(const std::string& place) const {
+    std::error_code ignored;
+    if (!data_.isWhole(place))
+        std::filesystem::remove_all(root_ + place, ignored);
 }
 
 void ScratchPlaces::clear() const {
     for (const std::string& place : places_)
-        removeAll(place);
+        remove(place);
 }
 
 void ScratchPlaces::clearForeign() const {
     for (const std::string& place : places_)
-        if (isForeign(place))
-            removeAll(place);
+        if (isForeign(root_ + place))
+            remove(place);
 }
 
 void ScratchPlaces::clearUnpacked() const {
-    removeAll(root_ + std::string(paths::unpackedTree));
+    remove(std::string(paths::unpackedTree));
 }
 
 std::optional<std::string> ScratchPlaces::claimFor(const std::string& line) const {
@@ -83,7 +84,7 @@ std::optional<std::string> ScratchPlaces::claim(const std::string& place, mode_t
             return path;
         if (!isForeign(path))
             return std::nullopt;
-        removeAll(path);
+        remove(place);
     }
     return std::nullopt;
 }

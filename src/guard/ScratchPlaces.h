@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/ItemCatalogue.h"
+#include "guard/LiveData.h"
 
 namespace tarnwick {
 
@@ -15,9 +16,10 @@ namespace tarnwick {
 class ScratchPlaces {
 public:
     // All paths are below the root.
-    ScratchPlaces(const ItemCatalogue& catalogue, std::string root);
+    ScratchPlaces(const ItemCatalogue& catalogue, const LiveData& data, std::string root);
 
     // Takes away, without following it, whatever stands there: a run that was cut off has left it.
+    // The data itself stays, if the place leads to it.
     void clear() const;
     // The same, of what is a link or another user's.
     void clearForeign() const;
@@ -30,6 +32,9 @@ public:
 private:
     std::optional<std::string> claim(const std::string& place, mode_t mode) const;
 
+    void remove(const std::string& place) const;
+
+    const LiveData& data_;
     const std::string root_;
     std::vector<std::string> places_;
 };

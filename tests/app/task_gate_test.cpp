@@ -18,6 +18,12 @@ protected:
         diary.entries.clear();
         otherProgram.emplace(lockPath);
     }
+    // A screen lives until its alerts are answered.
+    ~TaskGateTest() override {
+        while (!answerAlert(0).empty()) {
+        }
+    }
+
     bool isFree() const { return RunLock(lockPath).state() == RunLock::State::Held; }
     void endOtherProgramsRun() {
         otherProgram.reset();
