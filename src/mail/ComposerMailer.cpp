@@ -28,10 +28,20 @@ MailMessage asMessage(const ComposedMail& mail) {
     return message;
 }
 
+std::optional<std::string> keepAsDraft(const MailMessage& message, const DraftPlace& drafts) {
+    const std::time_t now = std::time(nullptr);
+    const auto fault = headerFaultOf(message);
+    return fault ? fault : keepDraft(mimeForm(message, now), now, drafts);
+}
+
 }  // namespace
 
 ComposerMailer::ComposerMailer(TaskQueues& queues, std::string program, DraftPlace drafts)
     : queues_(queues), program_(std::move(program)), drafts_(std::move(drafts)) {}
+
+bool ComposerMailer::canSend() const {
+    return isInstalled(program_);
+}
 
 QStringList ComposerMailer::recipientsIn(const QString& text) const {
     QStringList recipients;
@@ -46,20 +56,20 @@ bool ComposerMailer::isRecipient(const QString& text) const {
 
 void ComposerMailer::send(const ComposedMail& mail, Answer whenDone) {
     inBackground(
-        [message = asMessage(mail), program = program_] {
+        [message = asMessage(mail), program = program_, drafts = drafts_] {
             auto fault = faultOf(message);
-            return fault ? fault : handToMailer(mimeForm(message, std::time(nullptr)), program);
+            if (!fault)
+                fault = handToMailer(mimeForm(message, std::time(nullptr)), program);
+            if (fault && !keepAsDraft(message, drafts))
+                *fault += " The mail is kept as a draft.";
+            return fault;
         },
         std::move(whenDone));
 }
 
 void ComposerMailer::keepDraft(const ComposedMail& mail, Answer whenDone) {
     inBackground(
-        [message = asMessage(mail), drafts = drafts_] {
-            const std::time_t now = std::time(nullptr);
-            auto fault = headerFaultOf(message);
-            return fault ? fault : tarnwick::keepDraft(mimeForm(message, now), now, drafts);
-        },
+        [message = asMessage(mail), drafts = drafts_] { return keepAsDraft(message, drafts); },
         std::move(whenDone));
 }
 

@@ -106,6 +106,10 @@ std::string refusal(const std::string& program, int status, const std::string& w
 
 }  // namespace
 
+bool isInstalled(const std::string& program) {
+    return ::access(program.c_str(), X_OK) == 0;
+}
+
 std::string mailerLine(const std::string& program) {
     return program + " " + recipientsOption + " " + dotOption;
 }

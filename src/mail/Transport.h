@@ -10,6 +10,9 @@ namespace tarnwick {
 // it.
 inline constexpr const char* systemMailer = "/usr/sbin/sendmail";
 
+// Whether there is a mailer that can be started. Any thread.
+bool isInstalled(const std::string& program);
+
 // The command line, for a rehearsal.
 std::string mailerLine(const std::string& program);
 

@@ -92,7 +92,7 @@ TEST_F(CloudScreenTest, WhatIsWrittenIsKeptWhateverEndsIt) {
     EXPECT_EQ(log.lines, "Mail saved\nMail saved\n");
 }
 
-TEST(ComposerMailer, TellsWhyNothingWasSentOrKept) {
+TEST(ComposerMailer, KeepsWhatItCannotSendAndSaysWhy) {
     const TemporaryFolder folder;
     folder.put("home/any", "");
     InPlaceQueues queues;
@@ -102,8 +102,10 @@ TEST(ComposerMailer, TellsWhyNothingWasSentOrKept) {
     const ComposedMail mail = {.recipients = {"me@example.org"}};
     device.send(mail, write);
     device.keepDraft(mail, write);
-    EXPECT_EQ(answers, (std::vector<QString>{"There is no mailer at /nowhere/sendmail.", "done"}));
-    EXPECT_EQ(SystemFileManager(folder.path()).list("/home/Library/Mail/Drafts/cur")->size(), 1U);
+    EXPECT_EQ(answers, (std::vector<QString>{
+                           "There is no mailer at /nowhere/sendmail. The mail is kept as a draft.",
+                           "done"}));
+    EXPECT_EQ(SystemFileManager(folder.path()).list("/home/Library/Mail/Drafts/cur")->size(), 2U);
 }
 
 }  // namespace

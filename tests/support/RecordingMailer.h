@@ -11,6 +11,7 @@ namespace tarnwick::testing {
 // Writes down what it is asked for and answers when the test says so.
 class RecordingMailer : public Mailer {
 public:
+    bool canSend() const override { return isInstalled; }
     QStringList recipientsIn(const QString& text) const override {
         QStringList recipients;
         for (const std::string& recipient : tarnwick::recipientsIn(text.toStdString()))
@@ -30,6 +31,7 @@ public:
     }
     void answer(const std::optional<QString>& fault = {}) { std::exchange(answer_, {})(fault); }
 
+    bool isInstalled = true;
     std::vector<ComposedMail> sent;
     std::vector<ComposedMail> kept;
 

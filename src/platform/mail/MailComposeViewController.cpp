@@ -18,6 +18,8 @@ namespace {
 constexpr int deleteIndex = 1;
 constexpr int keepIndex = 2;
 
+const QString noMailer = "This device cannot send mail. Sending keeps this one as a draft.";
+
 // Points that keep the line that is written on clear of the form's edges.
 constexpr double roomAroundCursor = 12;
 
@@ -66,6 +68,7 @@ void MailComposeViewController::loadView() {
                            {"titleColor", look.titleColor},
                            {"subject", preset_.subject},
                            {"body", preset_.body},
+                           {"notice", mailer_.canSend() ? QString() : noMailer},
                            {"attachments", rowsOf(preset_.attachments)}}));
 }
 

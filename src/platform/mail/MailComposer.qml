@@ -12,6 +12,8 @@ FocusScope {
     required property string subject
     required property string body
     required property var attachments
+    // Stands above the form; empty for none.
+    required property string notice
     property bool canSend: false
     // Says what goes on while nothing can be written; empty otherwise.
     property string busyWith
@@ -30,6 +32,7 @@ FocusScope {
         opacity: enabled ? (pressed ? 0.5 : 1) : 0.45
         focusRingColor: composer.itemTint
         focusRingRadius: 8
+        Accessible.ignored: false
         Accessible.description: enabled ? "" : "not available"
 
         contentItem: Text {
@@ -66,6 +69,20 @@ FocusScope {
             id: head
 
             width: form.width
+
+            Text {
+                visible: text !== ""
+                width: parent.width
+                padding: composer.margin
+                text: composer.notice
+                textFormat: Text.PlainText
+                wrapMode: Text.Wrap
+                font { pixelSize: Look.body; bold: true }
+                color: "#9a3412"
+
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
 
             TextLine {
                 label: "To"

@@ -30,6 +30,8 @@ public:
     using Answer = std::function<void(const std::optional<QString>& fault)>;
 
     virtual ~Mailer() = default;
+    // Whether there is anything that sends; drafts can always be tried.
+    virtual bool canSend() const = 0;
     // The recipients in a text that was typed.
     virtual QStringList recipientsIn(const QString& text) const = 0;
     virtual bool isRecipient(const QString& text) const = 0;
