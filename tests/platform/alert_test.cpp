@@ -9,9 +9,9 @@
 #include <thread>
 
 #include "platform/views/QmlEngine.h"
+#include "platform/views/Stage.h"
 #include "platform/windows/AlertPresenter.h"
 #include "platform/windows/AlertView.h"
-#include "platform/windows/Stage.h"
 #include "support/Offered.h"
 #include "support/SteppedClock.h"
 
@@ -32,6 +32,8 @@ public:
     std::string diary;
     std::function<void()> onClick;
 };
+
+constexpr double settled = settlingDuration + 0.05;  // pauses begin and end with a frame
 
 // Something on the screen that follows a finger or a pointer.
 class Surface : public QQuickItem {
@@ -79,7 +81,7 @@ protected:
 
     void showAndWait(const Alert& alert) {
         presenter->show(alert, listener);
-        clock.advance(alertAppearDuration + 0.01);  // it starts with a frame
+        clock.advance(settled);
         layOut();
     }
 
@@ -135,9 +137,10 @@ TEST_F(AlertTest, EveryWayOfPressingTellsTheIndexAndThenTheEnd) {
         const auto told = "clicked 7/" + std::to_string(row.index) + ";";
         clock.advance(alertLeaveDuration / 2);
         EXPECT_EQ(listener->diary, told) << row.name;
-        EXPECT_TRUE(stage.isCovered()) << row.name;
         clock.advance(alertLeaveDuration / 2);
         EXPECT_EQ(listener->diary, told + "gone 7/" + std::to_string(row.index) + ";") << row.name;
+        EXPECT_TRUE(stage.isCovered()) << row.name << ": a double click goes no further";
+        clock.advance(settled);
         EXPECT_FALSE(stage.isCovered()) << row.name;
     }
     showAndWait({.message = "Wait.", .cancelButtonTitle = ""});
@@ -173,7 +176,7 @@ TEST_F(AlertTest, NoButtonIsLostOnTheSmallestScreensAndWithLargeText) {
         auto* text = presenter->top()->panel()->property("textArea").value<QQuickItem*>();
         EXPECT_GT(text->property("contentY").toDouble(), 20) << "a long message scrolls";
         key(Qt::Key_Escape);
-        clock.advance(alertLeaveDuration);
+        clock.advance(settled);
     }
     QGuiApplication::setFont(usual);
 }
@@ -218,7 +221,7 @@ TEST_F(AlertTest, WhatLiesBelowGetsNothingUntilItIsBack) {
     QCoreApplication::processEvents();
     key(Qt::Key_Space);
     EXPECT_EQ(clicks->count(), 0);
-    clock.advance(alertLeaveDuration);
+    clock.advance(settled);
     EXPECT_EQ(window.activeFocusItem(), presenter->top()->buttons()[0]);
     presenter->dismiss(older, 0, Animated::No);
     EXPECT_EQ(window.activeFocusItem(), buttons[0]);
@@ -231,11 +234,13 @@ TEST_F(AlertTest, AssistiveTechnologyFindsTheTopmostAlertOnly) {
     const QStringList all = {"Save", "Load"};
     EXPECT_EQ(allOffered(), all);
     const AlertTicket older = presenter->show({.title = "Older"});
-    EXPECT_EQ(allOffered(), QStringList({"Older", "Close"}));
+    EXPECT_EQ(allOffered(), QStringList("Older")) << "its button cannot be pressed yet";
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&stage)->childCount(), 0);
     const AlertTicket newer = presenter->show(question);
+    clock.advance(settled);
     EXPECT_EQ(allOffered(), QStringList({"Restart?", "One", "Two", "Close"}));
     presenter->dismiss(newer, 0, Animated::No);
+    clock.advance(settled);
     EXPECT_EQ(allOffered(), QStringList({"Older", "Close"}));
     presenter->dismiss(older, 0, Animated::No);
     EXPECT_EQ(allOffered(), all);
@@ -243,7 +248,7 @@ TEST_F(AlertTest, AssistiveTechnologyFindsTheTopmostAlertOnly) {
 
 TEST_F(AlertTest, AssistiveTechnologyCannotPressWhatIsCoveredByThen) {
     pressFromOutside(buttons[0]);
-    presenter->show(question, listener);
+    showAndWait(question);
     QQuickItem* one = presenter->top()->buttons()[0];
     pressFromOutside(one);
     const AlertTicket newer = presenter->show({.title = "Newer"});
@@ -254,15 +259,43 @@ TEST_F(AlertTest, AssistiveTechnologyCannotPressWhatIsCoveredByThen) {
     EXPECT_EQ(clicks->count(), 0);
     EXPECT_EQ(listener->diary, "");
     presenter->dismiss(newer, 0, Animated::No);
+    clock.advance(settled);
     pressFromOutside(one);
     QCoreApplication::processEvents();
     EXPECT_EQ(listener->diary, "clicked 7/1;");
 }
 
+TEST_F(AlertTest, ASecondPressDoesNotAnswerWhatTheFirstOneBroughtUp) {
+    const auto pressEveryWay = [this] {
+        layOut();
+        for (QQuickItem* button : presenter->top()->buttons()) {
+            click(button);
+            pressFromOutside(button);
+        }
+        key(Qt::Key_Return), key(Qt::Key_Space), key(Qt::Key_Escape);
+        QCoreApplication::processEvents();
+    };
+    presenter->show(question, listener);
+    pressEveryWay();
+    const AlertTicket newer = presenter->show(question, listener);
+    clock.advance(settlingDuration - 0.05);
+    QTest::mousePress(&window, Qt::LeftButton, {}, middleOf(presenter->top()->buttons()[0]));
+    pressEveryWay();
+    clock.advance(0.06);
+    QTest::mouseRelease(&window, Qt::LeftButton, {}, middleOf(presenter->top()->buttons()[0]));
+    presenter->dismiss(newer, 9, Animated::No);
+    pressEveryWay();
+    EXPECT_EQ(listener->diary, "gone 7/9;");
+    clock.advance(settled);
+    key(Qt::Key_Return);
+    EXPECT_EQ(listener->diary, "gone 7/9;clicked 7/0;");
+}
+
 TEST_F(AlertTest, WhoeverGoesFirstTheOthersLiveOn) {
     presenter->show(question, std::make_shared<Listener>());
+    clock.advance(settled);
     key(Qt::Key_Escape);
-    clock.advance(alertLeaveDuration);
+    clock.advance(settled);
 
     listener->onClick = [this] { presenter.reset(); };
     const AlertTicket leaving = presenter->show({.tag = 1});

@@ -91,13 +91,13 @@ protected:
     bool isUp() { return composer->view()->parentItem() != nullptr; }
     // Of the alert that is up.
     QQuickItem* alertButton(int place) {
-        clock.advance(alertAppearDuration + 0.01);
+        clock.advance(settlingDuration + 0.05);
         layOut();
         return window.alerts().top()->buttons().at(static_cast<std::size_t>(place));
     }
     void answerAlert(int place) {
         click(alertButton(place));
-        clock.advance(alertLeaveDuration + 0.01);
+        clock.advance(settlingDuration + 0.05);
     }
     // As a quick action does. Composer and screen are the mailer's until it has answered.
     void cutShort() {

@@ -8,9 +8,13 @@ namespace tarnwick::testing {
 
 SteppedClock::SteppedClock() {
     install();
+    heartbeat_.setDuration(1000);
+    heartbeat_.setLoopCount(-1);
+    heartbeat_.start();
 }
 
 SteppedClock::~SteppedClock() {
+    heartbeat_.stop();
     uninstall();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAnimationDriver>
+#include <QVariantAnimation>
 
 namespace tarnwick::testing {
 
@@ -25,6 +26,8 @@ protected:
 private:
     qint64 now_ = 0;
     qint64 start_ = 0;
+    // Where only pauses run, the toolkit would wait for them in real time.
+    QVariantAnimation heartbeat_;
 };
 
 // Deletes what is to be deleted later, and what that lets go of.

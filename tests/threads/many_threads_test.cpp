@@ -8,7 +8,7 @@
 #include "platform/threads/PlatformQueues.h"
 #include "platform/windows/AlertPresenter.h"
 #include "platform/windows/AlertView.h"
-#include "platform/windows/Stage.h"
+#include "platform/views/Stage.h"
 #include "support/SteppedClock.h"
 #include "ui/hud/ProgressHUD.h"
 

@@ -3,6 +3,7 @@
 #include "platform/controllers/NavigationBar.h"
 #include "platform/motion/Frames.h"
 #include "platform/views/QmlEngine.h"
+#include "platform/views/Stage.h"
 
 namespace tarnwick {
 
@@ -20,22 +21,26 @@ QVariantMap barProperties() {
 }
 
 // The bar at the top, with the content below.
-class NavigationView : public QQuickItem {
+class NavigationView : public Stage {
 public:
     NavigationView()
         : content(new QQuickItem(this)),
-          bar(createQmlItem(QStringLiteral("NavigationBar"), this, barProperties())) {
+          bar(createQmlItem(QStringLiteral("NavigationBar"), this, barProperties())),
+          busyLine(createQmlItem(QStringLiteral("BusyLine"), this, {{"z", 1}})) {
         bar->setHeight(navigationBarHeight);
+        busyLine->setY(navigationBarHeight);
         content->setY(navigationBarHeight);
     }
 
     QQuickItem* const content;
     QQuickItem* const bar;
+    QQuickItem* const busyLine;
 
 protected:
     void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override {
-        QQuickItem::geometryChange(newGeometry, oldGeometry);
+        Stage::geometryChange(newGeometry, oldGeometry);
         bar->setWidth(newGeometry.width());
+        busyLine->setWidth(newGeometry.width());
         content->setSize({newGeometry.width(), newGeometry.height() - navigationBarHeight});
     }
 };
@@ -54,6 +59,10 @@ void NavigationController::setRootViewController(const std::shared_ptr<ViewContr
     root_->didMoveToParentViewController(this);
     if (isViewLoaded())
         showRoot();
+}
+
+void NavigationController::setBusy(bool busy) {
+    static_cast<NavigationView*>(view())->busyLine->setProperty("busy", busy);
 }
 
 void NavigationController::loadView() {

@@ -6,7 +6,7 @@
 namespace tarnwick {
 
 // Holds one screen below a navigation bar with the screen's title and bar button. In a storyboard,
-// the segue "root" leads to the screen; it is created with the view. Main thread.
+// the segue "root" leads to the screen; it is created with the view, which is a Stage. Main thread.
 class NavigationController : public ViewController {
     Q_OBJECT
 
@@ -16,6 +16,9 @@ public:
     const std::shared_ptr<ViewController>& rootViewController() const { return root_; }
     // Replaces the former one. Must not be null.
     void setRootViewController(const std::shared_ptr<ViewController>& root);
+
+    // A line below the bar moves while it is busy.
+    void setBusy(bool busy);
 
 protected:
     void loadView() override;

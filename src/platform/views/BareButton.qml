@@ -21,6 +21,8 @@ T.AbstractButton {
 
     Accessible.role: Accessible.Button
     Accessible.name: text
+    // What cannot be pressed is not offered.
+    Accessible.ignored: !enabled
     // The call on the accessibility bus returns before the work begins. Whoever calls may have kept
     // the button from before it was covered or hidden.
     Accessible.onPressAction: Qt.callLater(button.clickIfReachable)

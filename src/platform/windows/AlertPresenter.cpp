@@ -1,14 +1,14 @@
 #include "platform/windows/AlertPresenter.h"
 
 #include <QPointer>
-#include <QQuickWindow>
 #include <algorithm>
 #include <utility>
 
 #include "platform/threads/MainThread.h"
+#include "platform/views/Focus.h"
 #include "platform/views/QmlEngine.h"
+#include "platform/views/Stage.h"
 #include "platform/windows/AlertView.h"
-#include "platform/windows/Stage.h"
 
 namespace tarnwick {
 
@@ -24,7 +24,8 @@ void tellDismissed(const std::weak_ptr<AlertDelegate>& delegate, const Alert& al
 AlertPresenter::AlertPresenter(Stage& stage, QQuickItem& container)
     : stage_(stage),
       layer_(createQmlItem("AlertLayer", &container)),
-      scrim_(layer_->property("scrim").value<QQuickItem*>()) {}
+      scrim_(layer_->property("scrim").value<QQuickItem*>()),
+      pause_(this) {}
 
 AlertPresenter::~AlertPresenter() {
     // Not deleted at once: this may be the end of a presenter in whose alert a button was pressed.
@@ -93,7 +94,7 @@ std::optional<AlertPresenter::Order> AlertPresenter::nextOrder() {
 void AlertPresenter::carryOut(const Arrival& arrival) {
     if (arrival.dismissedWith)
         return tellDismissed(arrival.delegate, arrival.alert, *arrival.dismissedWith);
-    const Qt::FocusReason reason = focusReason();
+    const Qt::FocusReason reason = focusReasonIn(layer_->window());
     if (top() != nullptr)
         top()->setVisible(false);
     else
@@ -105,14 +106,14 @@ void AlertPresenter::carryOut(const Arrival& arrival) {
     connect(view, &AlertView::focusLost, this, [this, ticket] { keepFocus(ticket); });
     shown_.push_back({.ticket = ticket, .view = view, .delegate = arrival.delegate});
     view->appear();
-    view->takeFocus(reason);
+    view->comeForward(reason);
 }
 
 void AlertPresenter::carryOut(const Dismissal& dismissal) {
     const auto found = find(dismissal.ticket);
     if (found == shown_.end())
         return;
-    const Qt::FocusReason reason = focusReason();
+    const Qt::FocusReason reason = focusReasonIn(layer_->window());
     const bool wasTop = found->view == top();
     const Shown closing = *found;
     shown_.erase(found);
@@ -120,9 +121,10 @@ void AlertPresenter::carryOut(const Dismissal& dismissal) {
     if (top() == nullptr) {
         reasonForStage_ = reason;
         fade(0.0, alertLeaveDuration, dismissal.animated);
+        settlesStage_ = dismissal.animated == Animated::Yes;
     } else if (wasTop) {
         top()->setVisible(true);
-        top()->takeFocus(reason);
+        top()->comeForward(reason);
     }
     const QPointer<AlertPresenter> self = this;
     closing.view->leave(dismissal.animated, [self, closing, index = dismissal.buttonIndex] {
@@ -137,8 +139,11 @@ void AlertPresenter::end(const Shown& closing, int buttonIndex) {
     closing.view->deleteLater();
     --leaving_;
     if (top() == nullptr && leaving_ == 0)
-        uncoverStage();
+        giveBackStage();
+    const QPointer<AlertPresenter> self = this;
     tellDismissed(closing.delegate, alert, buttonIndex);
+    if (self && top() == nullptr)
+        emit allWentAway();
 }
 
 void AlertPresenter::answer(AlertTicket ticket, int buttonIndex) {
@@ -155,11 +160,20 @@ void AlertPresenter::answer(AlertTicket ticket, int buttonIndex) {
 }
 
 void AlertPresenter::coverStage() {
+    pause_.cancel();
     layer_->setVisible(true);
     fade(1.0, alertAppearDuration, Animated::Yes);
     // The last alert before this one may still be fading out.
     if (!std::exchange(covers_, true))
         stage_.cover();
+}
+
+// A second press on a button that has gone was not meant for what lies below.
+void AlertPresenter::giveBackStage() {
+    if (settlesStage_)
+        pause_.start(settlingDuration - alertLeaveDuration, [this] { uncoverStage(); });
+    else
+        uncoverStage();
 }
 
 void AlertPresenter::uncoverStage() {
@@ -177,14 +191,6 @@ void AlertPresenter::fade(double opacity, double duration, Animated animated) {
         animate(duration, Easing::Out, {change});
     else
         applyAtOnce({change});
-}
-
-// Keyboard users keep seeing where the focus is.
-Qt::FocusReason AlertPresenter::focusReason() const {
-    const QQuickItem* focused =
-        layer_->window() != nullptr ? layer_->window()->activeFocusItem() : nullptr;
-    const bool seen = focused != nullptr && focused->property("visualFocus").toBool();
-    return seen ? Qt::TabFocusReason : Qt::OtherFocusReason;
 }
 
 // What lies below may ask for the keyboard at any time. Not answered at once: Qt is about to give

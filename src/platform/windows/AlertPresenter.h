@@ -12,6 +12,7 @@
 
 #include "core/Alert.h"
 #include "platform/motion/Animation.h"
+#include "platform/motion/Pause.h"
 
 namespace tarnwick {
 
@@ -66,6 +67,10 @@ public:
     // The newest; null if none is up.
     AlertView* top() const { return shown_.empty() ? nullptr : shown_.back().view; }
 
+signals:
+    // No alert is up any more.
+    void allWentAway();
+
 private:
     struct Arrival {
         AlertTicket ticket;
@@ -94,10 +99,10 @@ private:
     void answer(AlertTicket ticket, int buttonIndex);
     void end(const Shown& closing, int buttonIndex);
     void coverStage();
+    void giveBackStage();
     void uncoverStage();
     void fade(double opacity, double duration, Animated animated);
     void keepFocus(AlertTicket ticket);
-    Qt::FocusReason focusReason() const;
     std::vector<Shown>::iterator find(AlertTicket ticket);
 
     Stage& stage_;
@@ -105,7 +110,9 @@ private:
     QQuickItem* scrim_;
     std::vector<Shown> shown_;  // the newest is the last
     int leaving_ = 0;           // alerts that still fade out
-    bool covers_ = false;       // the stage, until the last alert has faded out
+    bool covers_ = false;       // the stage, until the last alert has gone
+    bool settlesStage_ = false;
+    Pause pause_;  // from the end of the last alert until the stage is uncovered
     Qt::FocusReason reasonForStage_ = Qt::OtherFocusReason;
 
     std::mutex guard_;  // of what follows

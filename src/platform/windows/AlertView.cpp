@@ -27,7 +27,7 @@ bool standsBefore(const QQuickItem* one, const QQuickItem* other) {
 }  // namespace
 
 AlertView::AlertView(const Alert& alert, QQuickItem* parent)
-    : InputBlocker(parent), alert_(alert), panel_(nullptr) {
+    : InputBlocker(parent), alert_(alert), panel_(nullptr), settling_(this) {
     setFlag(ItemIsFocusScope);
     connect(parent, &QQuickItem::widthChanged, this, &AlertView::fillParent);
     connect(parent, &QQuickItem::heightChanged, this, &AlertView::fillParent);
@@ -82,12 +82,21 @@ QQuickItem* AlertView::firstFocus() const {
     return hasCancelButton() ? made.back() : made.front();
 }
 
+void AlertView::comeForward(Qt::FocusReason reason) {
+    settling_.start({panel_}, [this] {
+        if (hasActiveFocus())
+            takeFocus(focusReason_);
+    });
+    takeFocus(reason);
+}
+
 void AlertView::takeFocus(Qt::FocusReason reason) {
     QQuickItem* item = scopedFocusItem() != nullptr ? scopedFocusItem() : firstFocus();
     focus(item != nullptr ? item : this, reason);
 }
 
 void AlertView::focus(QQuickItem* item, Qt::FocusReason reason) {
+    focusReason_ = reason;
     item->forceActiveFocus(reason);
     // Where there is just one button it has the focus already, but may not show it yet.
     item->setProperty("focusReason", reason);
@@ -173,7 +182,7 @@ void AlertView::keyPressEvent(QKeyEvent* event) {
             scrollText(-lengthOfPage());
             break;
         case Qt::Key_Escape:
-            if (hasCancelButton() && !event->isAutoRepeat())
+            if (hasCancelButton() && !event->isAutoRepeat() && !settling_.isUnderWay())
                 emit buttonPressed(0);
             break;
         default:

@@ -6,6 +6,7 @@
 #include "core/Alert.h"
 #include "platform/motion/Animation.h"
 #include "platform/views/InputBlocker.h"
+#include "platform/windows/Settling.h"
 
 namespace tarnwick {
 
@@ -13,6 +14,9 @@ namespace tarnwick {
 // touch, mouse, wheel and key that reaches it. Keys: Tab and arrows go from button to button,
 // Return, Enter and the space bar press one, Escape presses the cancel button, Page Up and Page
 // Down move a long message. Main thread.
+//
+// An alert that has just come forward takes no press: it may have been meant for what was there
+// before. Its buttons are offered to assistive technology when they can be pressed.
 class AlertView : public InputBlocker {
     Q_OBJECT
 
@@ -25,6 +29,8 @@ public:
     // As they stand on the screen: from the top down, from left to right.
     std::vector<QQuickItem*> buttons() const;
 
+    // To be called when it is the topmost alert from now on; see takeFocus().
+    void comeForward(Qt::FocusReason reason);
     // Gives the keyboard to the button that had it last, at first to the cancel button. The reason
     // tells whether the focus is to be seen.
     void takeFocus(Qt::FocusReason reason);
@@ -58,6 +64,8 @@ private:
 
     const Alert alert_;
     QQuickItem* panel_;
+    Settling settling_;
+    Qt::FocusReason focusReason_ = Qt::OtherFocusReason;  // of the last move of the focus
 };
 
 // How long an alert takes to come and to go, in seconds.

@@ -5,7 +5,7 @@
 
 #include "platform/controllers/ViewController.h"
 #include "platform/motion/Frames.h"
-#include "platform/windows/Stage.h"
+#include "platform/views/Stage.h"
 #include "platform/windows/Window.h"
 
 namespace tarnwick {

@@ -4,9 +4,9 @@
 #include <memory>
 
 #include "platform/gestures/GestureArbiter.h"
+#include "platform/views/Stage.h"
 #include "platform/windows/AlertPresenter.h"
 #include "platform/windows/ModalPresentation.h"
-#include "platform/windows/Stage.h"
 
 namespace tarnwick {
 

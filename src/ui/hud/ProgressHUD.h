@@ -13,7 +13,7 @@
 #include "platform/threads/WeakDelegate.h"
 #include "platform/views/InputBlocker.h"
 #include "platform/views/LabelView.h"
-#include "platform/windows/Cover.h"
+#include "platform/views/Cover.h"
 #include "ui/hud/ProgressHUDBox.h"
 #include "ui/hud/ProgressHUDIndicator.h"
 #include "ui/hud/ProgressHUDLayout.h"

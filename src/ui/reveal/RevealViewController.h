@@ -11,7 +11,7 @@
 #include "platform/motion/Animation.h"
 #include "platform/threads/WeakDelegate.h"
 #include "platform/views/ShadowView.h"
-#include "platform/windows/Cover.h"
+#include "platform/views/Cover.h"
 #include "ui/reveal/RevealProperties.h"
 #include "ui/reveal/RevealTransition.h"
 #include "ui/reveal/RevealViewControllerDelegate.h"

@@ -1,4 +1,4 @@
-#include "platform/windows/Cover.h"
+#include "platform/views/Cover.h"
 
 namespace tarnwick {
 

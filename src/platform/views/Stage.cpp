@@ -1,4 +1,4 @@
-#include "platform/windows/Stage.h"
+#include "platform/views/Stage.h"
 
 #include <QAccessibleObject>
 #include <QQuickWindow>

@@ -3,7 +3,7 @@
 #include <QQuickItem>
 #include <memory>
 
-#include "platform/windows/Cover.h"
+#include "platform/views/Cover.h"
 
 namespace tarnwick {
 
