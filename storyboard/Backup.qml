@@ -1,23 +1,26 @@
 import QtQuick
 
 Page {
+    component BackupButton: ItemButton { symbol: "backup" }
+
+    Steps { current: "backup" }
     Tagline { objectName: "mainBackup" }
 
     SectionHeading { objectName: "cydiaAndPackagesTitle"; text: "Cydia and Packages" }
-    ScreenButton { objectName: "sourcesButton"; text: "Cydia Sources"; actionName: "saveSources" }
-    ScreenButton { objectName: "packagesButton"; text: "Cydia Packages"; actionName: "savePackages" }
+    BackupButton { objectName: "sourcesButton"; text: "Cydia Sources"; actionName: "saveSources" }
+    BackupButton { objectName: "packagesButton"; text: "Cydia Packages"; actionName: "savePackages" }
 
     SectionHeading { objectName: "stockApplicationsTitle"; text: "Stock Applications" }
-    ScreenButton { objectName: "allInOneButton"; text: "All in One"; actionName: "saveAllInOne" }
-    ScreenButton { objectName: "tweaksPrefButton"; text: "Tweaks' Preferences"; actionName: "saveTweaksPrefs" }
-    ScreenButton { objectName: "accountsButton"; text: "Accounts"; actionName: "saveAccounts" }
-    ScreenButton { objectName: "calendarEventsButton"; text: "Calendar"; actionName: "saveCalendar" }
-    ScreenButton { objectName: "callHistoryButton"; text: "Call History"; actionName: "saveCallHistory" }
-    ScreenButton { objectName: "contactsButton"; text: "Contacts"; actionName: "saveContacts" }
-    ScreenButton { objectName: "messageButton"; text: "Messages/iMessages"; actionName: "saveMessages" }
-    ScreenButton { objectName: "notesButton"; text: "Notes"; actionName: "saveNotes" }
-    ScreenButton { objectName: "photosButton"; text: "Photos and Videos"; actionName: "savePhotos" }
-    ScreenButton { objectName: "safariBookmarksButton"; text: "Safari Bookmarks"; actionName: "saveSafari" }
-    ScreenButton { objectName: "springboardButton"; text: "SpringBoard"; actionName: "saveSpringboard" }
-    ScreenButton { objectName: "voicemailsButton"; text: "Voicemails"; actionName: "saveVoicemails" }
+    BackupButton { objectName: "allInOneButton"; text: "All in One"; actionName: "saveAllInOne" }
+    BackupButton { objectName: "tweaksPrefButton"; text: "Tweaks' Preferences"; actionName: "saveTweaksPrefs" }
+    BackupButton { objectName: "accountsButton"; text: "Accounts"; actionName: "saveAccounts" }
+    BackupButton { objectName: "calendarEventsButton"; text: "Calendar"; actionName: "saveCalendar" }
+    BackupButton { objectName: "callHistoryButton"; text: "Call History"; actionName: "saveCallHistory" }
+    BackupButton { objectName: "contactsButton"; text: "Contacts"; actionName: "saveContacts" }
+    BackupButton { objectName: "messageButton"; text: "Messages/iMessages"; actionName: "saveMessages" }
+    BackupButton { objectName: "notesButton"; text: "Notes"; actionName: "saveNotes" }
+    BackupButton { objectName: "photosButton"; text: "Photos and Videos"; actionName: "savePhotos" }
+    BackupButton { objectName: "safariBookmarksButton"; text: "Safari Bookmarks"; actionName: "saveSafari" }
+    BackupButton { objectName: "springboardButton"; text: "SpringBoard"; actionName: "saveSpringboard" }
+    BackupButton { objectName: "voicemailsButton"; text: "Voicemails"; actionName: "saveVoicemails" }
 }

@@ -2,25 +2,9 @@ import QtQuick
 import Tarnwick
 
 Page {
-    id: page
-
     spacing: 16
 
-    Item {
-        width: parent.width
-        height: symbol.height + 2 * page.margin
-
-        SymbolView {
-            id: symbol
-
-            anchors.centerIn: parent
-            // Low screens are for the words.
-            width: Math.max(40, Math.min(96, Math.round(page.height * 0.15)))
-            height: width
-            name: "cloud"
-            color: Look.tint
-        }
-    }
+    Steps { current: "cloud" }
 
     Text {
         width: parent.width
@@ -35,7 +19,11 @@ Page {
         Accessible.name: text
     }
 
+    Tagline { text: "The archives of your data stay on this device. Copy them to another machine before a wipe; over SSH, \u201ctarnwick export\u201d sends all of them as one file." }
+
     Tagline { text: "The list of installed packages that you saved last is mailed as a text file, to whom you choose." }
+    Tagline { objectName: "packageListState" }
+    Tagline { objectName: "mailerState" }
 
     ScreenButton { objectName: "sendBackupButton"; text: "Send Backup"; actionName: "sendBackup" }
 }

@@ -8,7 +8,7 @@ Storyboard {
 
         required property string root
 
-        controller: "NavigationController"
+        controller: "ScreenNavigationController"
 
         Segue { identifier: "root"; destination: navigation.root; kind: "NavigationRootSegue" }
     }
@@ -17,7 +17,7 @@ Storyboard {
 
     Scene {
         identifier: "RevealViewController"
-        controller: "RevealViewController"
+        controller: "MenuContainer"
 
         SetController { identifier: "sw_rear"; destination: "sidebar" }
         SetController { identifier: "sw_front"; destination: "backupNC" }

@@ -8,6 +8,8 @@ BareButton {
     property string reuseIdentifier
     property string symbol
     property int selectionStyle: 0
+    // Whether a task of the screen is under way.
+    property bool busy: false
     readonly property int graySelection: 2
 
     width: parent?.width ?? 0
@@ -17,6 +19,7 @@ BareButton {
     spacing: 16
     font.pixelSize: Look.headline
     segueName: reuseIdentifier
+    Accessible.description: busy ? "under way" : ""
 
     contentItem: Item {
         SymbolView {
@@ -28,12 +31,31 @@ BareButton {
         }
 
         Text {
-            anchors { left: icon.right; leftMargin: cell.spacing; right: parent.right; verticalCenter: parent.verticalCenter }
+            anchors { left: icon.right; leftMargin: cell.spacing; right: mark.left; verticalCenter: parent.verticalCenter }
             text: cell.text
             textFormat: Text.PlainText
             elide: Text.ElideRight
             color: "white"
             font: cell.font
+        }
+
+        Rectangle {
+            id: mark
+
+            anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+            visible: cell.busy
+            width: 10
+            height: width
+            radius: width / 2
+            color: "#7fd0ff"
+
+            SequentialAnimation on opacity {
+                running: cell.busy
+                loops: Animation.Infinite
+
+                NumberAnimation { from: 1; to: 0.25; duration: 700; easing.type: Easing.InOutSine }
+                NumberAnimation { from: 0.25; to: 1; duration: 700; easing.type: Easing.InOutSine }
+            }
         }
     }
 

@@ -1,11 +1,13 @@
 #include "app/MainInterface.h"
 
+#include "app/MenuContainer.h"
 #include "app/SidebarViewController.h"
 #include "backup/MainViewController.h"
 #include "help/HelpViewController.h"
 #include "mail/CloudViewController.h"
 #include "options/OptionsViewController.h"
 #include "restore/RestoreViewController.h"
+#include "screens/ScreenNavigationController.h"
 #include "screens/Symbols.h"
 #include "ui/reveal/RevealSegues.h"
 
@@ -25,7 +27,9 @@ void add(StoryboardClasses& classes, const QString& name, Arguments&... argument
 StoryboardClasses classesFor(const ScreenServices& services) {
     StoryboardClasses classes;
     addRevealClasses(classes);
-    add<SidebarViewController>(classes, "SidebarViewController");
+    add<MenuContainer>(classes, "MenuContainer");
+    add<ScreenNavigationController>(classes, "ScreenNavigationController", services);
+    add<SidebarViewController>(classes, "SidebarViewController", services.gate.tasks());
     add<MainViewController>(classes, "MainViewController", services);
     add<RestoreViewController>(classes, "RestoreViewController", services);
     add<OptionsViewController>(classes, "OptionsViewController", services);

@@ -20,10 +20,10 @@ Program::~Program() {
 }
 
 void Program::activate() {
-    if (isLaunched())
-        window_.makeKeyAndVisible();
-    else
-        launch({});
+    if (!isLaunched())
+        return launch({});
+    deferredClose_->cancel();
+    window_.makeKeyAndVisible();
 }
 
 void Program::activateAction(const QString& name) {
@@ -35,6 +35,8 @@ void Program::activateAction(const QString& name) {
 
 void Program::launch(const LaunchOptions& options) {
     lifeCycle_ = std::make_unique<LifeCycle>(window_, delegate_);
+    // Asked first, as it came last.
+    deferredClose_ = std::make_unique<DeferredClose>(window_, gate_.tasks());
     window_.setTitle(QGuiApplication::applicationDisplayName());
     window_.resize(phoneSize);
     delegate_.applicationDidFinishLaunchingWithOptions(options);

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "app/AppDelegate.h"
+#include "app/DeferredClose.h"
 #include "app/Termination.h"
 #include "core/ItemCatalogue.h"
 #include "core/SystemCommandRunner.h"
@@ -62,6 +63,7 @@ private:
     ComposerMailer mailer_{queues_};
     AppDelegate delegate_{window_, services_};
     std::unique_ptr<LifeCycle> lifeCycle_;
+    std::unique_ptr<DeferredClose> deferredClose_;
 };
 
 }  // namespace tarnwick

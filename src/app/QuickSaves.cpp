@@ -70,7 +70,8 @@ void QuickSaves::perform(const char* what, const Work& work) const {
     const auto waiting =
         std::make_shared<Notice>(services_.alerts, "Waiting for another run of Tarnwick to end...");
     services_.gate.perform(
-        {.what = what,
+        {.screen = "backup",
+         .what = what,
          .task =
              [&queues = services_.queues, work, notice] {
                  queues.dispatchToGlobalQueue(

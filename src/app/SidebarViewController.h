@@ -4,14 +4,19 @@
 #include <optional>
 
 #include "platform/controllers/TableViewController.h"
+#include "screens/TasksUnderWay.h"
 
 namespace tarnwick {
 
-// The menu: a heading and a row for each screen. Choosing a row performs the segue of its cell.
+// The menu: a heading and a row for each screen, which shows whether a task of that screen is under
+// way. Choosing a row performs the segue of its cell.
 class SidebarViewController : public TableViewController {
     Q_OBJECT
 
 public:
+    // The tasks outlive it.
+    explicit SidebarViewController(TasksUnderWay& tasks) : tasks_(tasks) {}
+
     int numberOfSections() const override { return 1; }
     int numberOfRowsInSection(int section) const override;
     QQuickItem* cellForRowAtIndexPath(const IndexPath& path) override;
@@ -24,6 +29,9 @@ protected:
     void viewDidLoad() override;
 
 private:
+    void markRows();
+
+    TasksUnderWay& tasks_;
     QStringList items_;
     std::optional<QStringList> menuItems_;
 };

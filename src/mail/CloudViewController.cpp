@@ -1,5 +1,9 @@
 #include "mail/CloudViewController.h"
 
+#include <QDateTime>
+#include <QLocale>
+
+#include "core/SafeguardPaths.h"
 #include "mail/MailMessage.h"
 
 namespace tarnwick {
@@ -9,6 +13,14 @@ namespace {
 // Null where there is no data, which is not the same as empty.
 QByteArray bytesOf(const std::optional<std::string>& data) {
     return data ? QByteArray(data->data(), static_cast<qsizetype>(data->size())) : QByteArray();
+}
+
+QString packageListText(const FileReader& files) {
+    const auto time = files.modificationTime(paths::savedPackages);
+    if (!time)
+        return "No list of packages is saved yet.";
+    const QDate date = QDateTime::fromSecsSinceEpoch(*time).date();
+    return "A list of packages was saved on " + QLocale::c().toString(date, "d MMM yyyy") + ".";
 }
 
 }  // namespace
@@ -22,6 +34,11 @@ void CloudViewController::viewDidLoad() {
     FrontScreen::viewDidLoad();
     setTitle("Cloud");
     completeView();
+    packageListState->setProperty("text", packageListText(files_));
+    mailerState->setProperty("text", mailer_.canSend()
+                                         ? "This device can send mail."
+                                         : "This device has no mailer, so that it can "
+                                           "only keep a mail as a draft.");
 }
 
 void CloudViewController::sendBackup(QQuickItem*) {

@@ -15,6 +15,8 @@ public:
     // All three must outlive the controller.
     CloudViewController(const FileReader& files, Mailer& mailer, Log& log);
 
+    Outlet<QQuickItem> packageListState{this, "packageListState"};
+    Outlet<QQuickItem> mailerState{this, "mailerState"};
     StyledOutlet sendBackupButton{this, "sendBackupButton", styleButton};
 
     // Composes the mail, whether or not there is a list, and presents it.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "screens/OperationsScreen.h"
+#include "screens/SavedTexts.h"
 #include "screens/ScreenStyle.h"
 
 namespace tarnwick {
@@ -28,6 +29,34 @@ public:
     StyledOutlet safariBookmarksButton{this, "safariBookmarksButton", styleButton};
     StyledOutlet springboardButton{this, "springboardButton", styleButton};
     StyledOutlet voicemailsButton{this, "voicemailsButton", styleButton};
+
+protected:
+    void viewDidLoad() override {
+        OperationsScreen<ScreenOperations>::viewDidLoad();
+        QObject::connect(&this->services().gate.tasks(), &TasksUnderWay::changed, this,
+                         [this] { readSavedTexts(); });
+        readSavedTexts();
+    }
+
+private:
+    // Reads them off the main thread, which goes on.
+    void readSavedTexts() {
+        const auto self = this->weak_from_this();
+        this->services().queues.dispatchToGlobalQueue([this, self, &services = this->services()] {
+            const auto texts = savedTexts(services.catalogue, services.files);
+            services.queues.dispatchToMainQueue([this, self, texts] {
+                if (const auto screen = self.lock())
+                    showSavedTexts(texts);
+            });
+        });
+    }
+
+    void showSavedTexts(const std::map<QString, QString>& texts) {
+        for (QQuickItem* button : this->view()->template findChildren<QQuickItem*>())
+            for (const auto& [name, text] : texts)
+                if (button->property("actionName").toString().endsWith(name))
+                    button->setProperty("detail", text);
+    }
 };
 
 }  // namespace tarnwick

@@ -8,37 +8,37 @@ namespace {
 
 constexpr double timeBetweenTries = 0.2;  // seconds
 
-thread_local SharedRun::Ticket ticketOfThread;
+thread_local TasksUnderWay::Ticket ticketOfThread;
 
 }  // namespace
 
-TaskGate::Part::Part(SharedRun::Ticket ticket)
+TaskGate::Part::Part(TasksUnderWay::Ticket ticket)
     : before_(std::exchange(ticketOfThread, std::move(ticket))) {}
 
 TaskGate::Part::~Part() {
     ticketOfThread = std::move(before_);
 }
 
-SharedRun::Ticket TaskGate::currentTicket() {
+TasksUnderWay::Ticket TaskGate::currentTicket() {
     return ticketOfThread;
 }
 
 TaskGate::TaskGate(SharedRun& run) : run_(run), pause_(this) {}
 
 void TaskGate::perform(Entry entry) {
-    if (begin(entry))
+    if (begin(entry, entry.task))
         return;
     entry.showWaiting();
     waiting_.push_back(std::move(entry));
     pause_.start(timeBetweenTries, [this] { tryWaiting(); });
 }
 
-bool TaskGate::begin(const Entry& entry) {
-    auto ticket = run_.enter(entry.what);
-    if (!ticket)
+bool TaskGate::begin(const Entry& entry, const Task& task) {
+    auto held = run_.enter(entry.what);
+    if (!held)
         return false;
-    const Part part(std::move(ticket));
-    entry.task();
+    const Part part(tasks_.begin(entry.screen, std::move(held)));
+    task();
     return true;
 }
 
@@ -49,7 +49,7 @@ void TaskGate::tryWaiting() {
             entry.hideWaiting();
             entry.task();
         };
-        if (!begin({.what = entry.what, .task = task})) {
+        if (!begin(entry, task)) {
             pause_.start(timeBetweenTries, [this] { tryWaiting(); });
             return;
         }

@@ -7,6 +7,7 @@
 
 #include "guard/SharedRun.h"
 #include "platform/motion/Pause.h"
+#include "screens/TasksUnderWay.h"
 
 namespace tarnwick {
 
@@ -18,11 +19,12 @@ class TaskGate : public QObject {
 public:
     using Task = std::function<void()>;
 
-    // The run outlives the gate.
+    // The run outlives the gate, and the gate the tickets of its tasks.
     explicit TaskGate(SharedRun& run);
 
     // What is done, and what the person sees until it can begin.
     struct Entry {
+        std::string screen;  // the scene of the screen whose task it is
         std::string what;
         Task task;
         Task showWaiting;
@@ -31,25 +33,28 @@ public:
     // Does it at once, or later on this thread. Dropped if the gate goes before.
     void perform(Entry entry);
 
+    TasksUnderWay& tasks() { return tasks_; }
+
     // Of the task that this thread is doing; null without one. Any thread.
-    static SharedRun::Ticket currentTicket();
+    static TasksUnderWay::Ticket currentTicket();
     // While it exists, this thread is doing a part of the task. Any thread.
     class Part {
     public:
-        explicit Part(SharedRun::Ticket ticket);
+        explicit Part(TasksUnderWay::Ticket ticket);
         Part(const Part&) = delete;
         Part& operator=(const Part&) = delete;
         ~Part();
 
     private:
-        SharedRun::Ticket before_;
+        TasksUnderWay::Ticket before_;
     };
 
 private:
-    bool begin(const Entry& entry);
+    bool begin(const Entry& entry, const Task& task);
     void tryWaiting();
 
     SharedRun& run_;
+    TasksUnderWay tasks_;
     std::deque<Entry> waiting_;
     Pause pause_;
 };

@@ -33,11 +33,30 @@ TaskScreen::TaskScreen(const ScreenServices& services)
 
 TaskScreen::~TaskScreen() = default;
 
+void TaskScreen::viewDidLoad() {
+    FrontScreen::viewDidLoad();
+    connect(&services_.gate.tasks(), &TasksUnderWay::changed, this, &TaskScreen::endResumedHud);
+    if (!services_.gate.tasks().hudLabelOf(scene()).isEmpty())
+        resumedHud_ = newHud(services_.gate.tasks().hudLabelOf(scene()));
+}
+
+void TaskScreen::endResumedHud() {
+    if (resumedHud_ && services_.gate.tasks().hudLabelOf(scene()).isEmpty())
+        resumedHud_->hide(Animated::Yes);
+}
+
+ProgressHUD* TaskScreen::newHud(const QString& label) {
+    ProgressHUD* hud = ProgressHUD::showHUDAddedTo(view(), Animated::Yes);
+    hud->setMode(ProgressHUD::ModeIndeterminate);
+    hud->setLabelText(label);
+    hud->show(Animated::Yes);
+    return hud;
+}
+
 void TaskScreen::showHud(std::string_view label) {
-    hud_ = ProgressHUD::showHUDAddedTo(view(), Animated::Yes);
-    hud_->setMode(ProgressHUD::ModeIndeterminate);
-    hud_->setLabelText(QString::fromUtf8(label.data(), static_cast<qsizetype>(label.size())));
-    hud_->show(Animated::Yes);
+    const auto text = QString::fromUtf8(label.data(), static_cast<qsizetype>(label.size()));
+    hud_ = newHud(text);
+    services_.gate.tasks().setHudLabel(TaskGate::currentTicket(), text);
 }
 
 void TaskScreen::hideHud() {
@@ -47,7 +66,8 @@ void TaskScreen::hideHud() {
 
 void TaskScreen::perform(const std::string& what, std::function<void()> task) {
     const auto self = shared_from_this();
-    services_.gate.perform({.what = what,
+    services_.gate.perform({.screen = scene().toStdString(),
+                            .what = what,
                             .task = [self, task = std::move(task)] { task(); },
                             .showWaiting =
                                 [this] {

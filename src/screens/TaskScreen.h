@@ -30,19 +30,26 @@ public:
     void alertDidDismissWithButtonIndex(const Alert& alert, int index) override;
 
 protected:
+    void viewDidLoad() override;
     // Does it as soon as no other program's run is under way; until then a HUD says what it waits
     // for.
     void perform(const std::string& what, std::function<void()> task);
     // For the operations of this screen.
     OperationServices operationServices();
 
+    const ScreenServices& services() const { return services_; }
+
 private:
     class Queues;
+
+    ProgressHUD* newHud(const QString& label);
+    void endResumedHud();
 
     const ScreenServices& services_;
     const std::unique_ptr<TaskQueues> queues_;
     QPointer<ProgressHUD> hud_;
-    std::mutex guard_;  // of what follows
+    QPointer<ProgressHUD> resumedHud_;  // of a task that another view of this screen began
+    std::mutex guard_;                  // of what follows
     int openAlerts_ = 0;
     std::shared_ptr<ViewController> self_;  // while an alert is open
 };
