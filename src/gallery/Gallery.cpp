@@ -90,8 +90,8 @@ ProgressHUD* Gallery::showHud(int animationType) {
     auto* hud = new ProgressHUD(screen);
     hud->setParent(screen);
     hud->setParentItem(screen);
-    hud->removeFromSuperViewOnHide = true;
-    hud->animationType = static_cast<ProgressHUD::AnimationType>(animationType);
+    hud->setRemoveFromSuperViewOnHide(true);
+    hud->setAnimationType(static_cast<ProgressHUD::AnimationType>(animationType));
     hud->show(animated_);
     if (animated_ == Animated::Yes)
         hud->hideAfterDelay(Animated::Yes, busyTime);

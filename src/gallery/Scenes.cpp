@@ -35,6 +35,11 @@ void withDetails(ProgressHUD& hud) {
     hud.setDetailsLabelText(longText);
 }
 
+void withTooManyDetails(ProgressHUD& hud) {
+    hud.setLabelText("Backup in progress...\nStill a long way to go");
+    hud.setDetailsLabelText((longText + ". ").repeated(20));
+}
+
 void squareAndDimmed(ProgressHUD& hud) {
     hud.setLabelText("Loading");
     hud.setSquare(true);
@@ -44,11 +49,12 @@ void squareAndDimmed(ProgressHUD& hud) {
 void colouredAndShifted(ProgressHUD& hud) {
     hud.setLabelText("Restoration in progress...");
     hud.setColor(QColor(0x8e, 0x24, 0x3c, 0xe0));
-    hud.setOffset({0, -150});
+    hud.setYOffset(-150);
 }
 
 void withOwnView(ProgressHUD& hud) {
-    auto* bar = new BarProgressView(&hud);
+    auto* bar = new BarProgressView;
+    bar->QObject::setParent(&hud);
     bar->setProgress(0.4);
     bar->setProgressColor(QColor(0xff, 0xcc, 0x00));
     hud.setCustomView(bar);
@@ -73,6 +79,7 @@ std::vector<Scene> hudScenes() {
         hudScene("Text only", "hud-text-only", inMode(Hud::ModeTextOnly, 0, "Done")),
         hudScene("Own view", "hud-custom", withOwnView),
         hudScene("Details", "hud-details", withDetails),
+        hudScene("Too many details", "hud-details-many", withTooManyDetails),
         hudScene("Square, dimmed", "hud-square-dimmed", squareAndDimmed),
         hudScene("Coloured, shifted", "hud-coloured-shifted", colouredAndShifted),
     };

@@ -8,13 +8,13 @@ namespace tarnwick::testing {
 
 SteppedClock::SteppedClock() {
     install();
-    heartbeat_.setDuration(1000);
-    heartbeat_.setLoopCount(-1);
-    heartbeat_.start();
+    heart_.setStartValue(0);
+    heart_.setEndValue(1);
+    heart_.setLoopCount(-1);
+    heart_.start();
 }
 
 SteppedClock::~SteppedClock() {
-    heartbeat_.stop();
     uninstall();
 }
 

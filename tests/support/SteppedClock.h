@@ -24,10 +24,10 @@ protected:
     void start() override;
 
 private:
+    // Pauses alone would be left to a timer of the system.
+    QVariantAnimation heart_;
     qint64 now_ = 0;
     qint64 start_ = 0;
-    // Where only pauses run, the toolkit would wait for them in real time.
-    QVariantAnimation heartbeat_;
 };
 
 // Deletes what is to be deleted later, and what that lets go of.

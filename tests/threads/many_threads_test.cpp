@@ -5,11 +5,13 @@
 #include <QQuickWindow>
 #include <thread>
 
+#include "platform/threads/MainThread.h"
 #include "platform/threads/PlatformQueues.h"
 #include "platform/windows/AlertPresenter.h"
 #include "platform/windows/AlertView.h"
 #include "platform/views/Stage.h"
 #include "support/SteppedClock.h"
+#include "ui/hud/BarProgressView.h"
 #include "ui/hud/ProgressHUD.h"
 
 namespace tarnwick::testing {
@@ -62,20 +64,45 @@ TEST_F(ManyThreads, ChangeOneHud) {
             hud->setLabelText(QString::number(number));
             hud->setProgress(turn / 50.0);
             hud->setMode(static_cast<ProgressHUD::Mode>((number + turn) % 6));
+            hud->setMargin(number);
+            hud->setOpacity(turn / 50.0);
+            hud->setCompletionBlock([] {});
+            hud->setDelegate(nullptr);
+            EXPECT_EQ(hud->labelText().size(), 1);
+            EXPECT_GE(hud->margin(), 0);
         }
+        hud->setMode(ProgressHUD::ModeBar);
+        hud->setProgress(0.5);
     });
-    EXPECT_EQ(hud->labelText(), "");
+    EXPECT_EQ(qobject_cast<BarProgressView*>(hud->indicator()), nullptr) << "not on its thread";
     QCoreApplication::processEvents();
-    EXPECT_EQ(hud->labelText().size(), 1);
+    ASSERT_NE(qobject_cast<BarProgressView*>(hud->indicator()), nullptr);
+    EXPECT_EQ(qobject_cast<BarProgressView*>(hud->indicator())->progress(), 0.5);
+}
+
+TEST_F(ManyThreads, HandChangesOverToAHudThatGoesMeanwhile) {
+    std::vector<std::jthread> threads;
+    QPointer<ProgressHUD> hud = new ProgressHUD(window.contentItem());
+    for (int number = 0; number < threadCount; ++number)
+        threads.emplace_back([hud] {
+            for (int turn = 0; turn < 1000; ++turn)
+                performLaterOnMainThread(hud, [](ProgressHUD& it) { it.setProgress(0.5); });
+        });
+    while (hud->progress() == 0)
+        QCoreApplication::processEvents();
+    delete hud;
+    threads.clear();
+    QCoreApplication::processEvents();
 }
 
 TEST_F(ManyThreads, OfAHudRunsItsMethodAndEndsIt) {
+    const PlatformQueues queues;
     ProgressHUD hud(window.contentItem());
     hud.setParentItem(window.contentItem());
     std::thread::id used;
     hud.showWhileExecuting([&used] { used = std::this_thread::get_id(); }, Animated::No);
     EXPECT_TRUE(hud.isVisible());
-    while (hud.taskInProgress)
+    while (hud.taskInProgress())
         QCoreApplication::processEvents();
     EXPECT_NE(used, std::this_thread::get_id());
     EXPECT_FALSE(hud.isVisible());

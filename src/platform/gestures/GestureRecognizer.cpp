@@ -25,8 +25,8 @@ public:
 GestureRecognizer::GestureRecognizer(std::function<void()> action, QObject* parent)
     : QObject(parent), action_(std::move(action)) {}
 
-void GestureRecognizer::setDelegate(GestureRecognizerDelegate* delegate) {
-    delegate_.set(delegate);
+void GestureRecognizer::setDelegate(const WeakDelegate<GestureRecognizerDelegate>& delegate) {
+    delegate_ = delegate;
 }
 
 QPointF GestureRecognizer::location(const QQuickItem* view) const {

@@ -44,7 +44,7 @@ public:
     explicit GestureRecognizer(std::function<void()> action, QObject* parent = nullptr);
 
     GestureState state() const { return state_; }
-    void setDelegate(GestureRecognizerDelegate* delegate);
+    void setDelegate(const WeakDelegate<GestureRecognizerDelegate>& delegate);
     // The current or last position of the touch, in points of the view; of the window's content if
     // the view is null.
     QPointF location(const QQuickItem* view) const;

@@ -11,6 +11,15 @@ namespace {
 
 constexpr double millisecondsInASecond = 1000.0;
 
+// The longest pause is 24 days; what is negative or no number does not pause.
+int milliseconds(double seconds) {
+    constexpr int longest = std::numeric_limits<int>::max();
+    if (!(seconds > 0))
+        return 0;
+    return static_cast<int>(
+        std::lround(std::min<double>(seconds * millisecondsInASecond, longest)));
+}
+
 }  // namespace
 
 Pause::Pause(QObject* parent) : QObject(parent) {
@@ -24,7 +33,7 @@ Pause::Pause(QObject* parent) : QObject(parent) {
 void Pause::start(double seconds, std::function<void()> task) {
     cancel();
     task_ = std::move(task);
-    animation_.setDuration(static_cast<int>(std::lround(seconds * millisecondsInASecond)));
+    animation_.setDuration(milliseconds(seconds));
     animation_.start();
 }
 

@@ -1,7 +1,11 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QObject>
+#include <QPointer>
 #include <functional>
+#include <type_traits>
+#include <utility>
 
 namespace tarnwick {
 
@@ -13,6 +17,16 @@ void performLaterOnMainThread(QObject* owner, std::function<void()> task);
 
 // Runs the task at once on the main thread; on other threads posts it without waiting.
 void performOnMainThread(QObject* owner, std::function<void()> task);
+
+// The same for a task with an object of the main thread that may be gone by then, or already.
+template <class Object>
+void performLaterOnMainThread(const QPointer<Object>& object,
+                              std::function<void(std::type_identity_t<Object>&)> task) {
+    performLaterOnMainThread(QCoreApplication::instance(), [object, task = std::move(task)] {
+        if (object)
+            task(*object);
+    });
+}
 
 bool isMainThread();
 

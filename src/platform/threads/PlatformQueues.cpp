@@ -16,12 +16,15 @@ namespace {
 
 constexpr int mainThreadNiceness = -10;
 
+PlatformQueues* queuesOfApplication = nullptr;
+
 }  // namespace
 
 PlatformQueues::PlatformQueues() : usualNiceness_(getpriority(PRIO_PROCESS, 0)) {
     // The interface stays responsive while commands keep every core busy. Without the privilege to
     // raise it, the priority stays as it is.
     setpriority(PRIO_PROCESS, 0, mainThreadNiceness);
+    queuesOfApplication = this;
 }
 
 PlatformQueues::~PlatformQueues() {
@@ -31,6 +34,12 @@ PlatformQueues::~PlatformQueues() {
         wasIdle = isIdleSoon();
         QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
     } while (!wasIdle || !isIdleSoon());
+    queuesOfApplication = nullptr;
+}
+
+PlatformQueues& PlatformQueues::ofApplication() {
+    Q_ASSERT_X(queuesOfApplication != nullptr, "PlatformQueues", "The program has no queues.");
+    return *queuesOfApplication;
 }
 
 bool PlatformQueues::isIdleSoon() {

@@ -19,6 +19,9 @@ public:
     PlatformQueues();
     ~PlatformQueues() override;
 
+    // Those of the program: the ones that exist, which must be one. Main thread.
+    static PlatformQueues& ofApplication();
+
     void runInBackground(Task task) override;
     // Runs the task at once on the main thread, where waiting would deadlock.
     void performOnMainThreadAndWait(Task task) override;

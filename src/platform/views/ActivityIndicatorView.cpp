@@ -36,7 +36,21 @@ ActivityIndicatorView::ActivityIndicatorView(QQuickItem* parent) : PaintedView(p
 }
 
 void ActivityIndicatorView::startAnimating() {
-    turn_.start();
+    isAnimating_ = true;
+    turnWhileVisible();
+}
+
+void ActivityIndicatorView::turnWhileVisible() {
+    if (isAnimating_ && isVisible())
+        turn_.start();
+    else
+        turn_.stop();
+}
+
+void ActivityIndicatorView::itemChange(ItemChange change, const ItemChangeData& data) {
+    if (change == ItemVisibleHasChanged)
+        turnWhileVisible();
+    PaintedView::itemChange(change, data);
 }
 
 void ActivityIndicatorView::paint(QPainter* painter) {

@@ -8,7 +8,7 @@
 namespace tarnwick {
 
 // A phone's large activity indicator: twelve spokes, of which the brightest one goes round once per
-// second. Main thread.
+// second while it can be seen. Main thread.
 class ActivityIndicatorView : public PaintedView {
     Q_OBJECT
 
@@ -17,10 +17,17 @@ public:
 
     void setColor(const QColor& color) { change(color_, color); }
     void startAnimating();
+    bool isTurning() const { return turn_.state() == QAbstractAnimation::Running; }
 
     void paint(QPainter* painter) override;
 
+protected:
+    void itemChange(ItemChange change, const ItemChangeData& data) override;
+
 private:
+    void turnWhileVisible();
+
+    bool isAnimating_ = false;
     QColor color_ = Qt::white;
     QVariantAnimation turn_;
 };

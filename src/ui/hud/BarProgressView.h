@@ -12,12 +12,17 @@ class BarProgressView : public PaintedView {
     Q_PROPERTY(double progress READ progress WRITE setProgress)
 
 public:
+    // Of 120 by 20 points.
     explicit BarProgressView(QQuickItem* parent = nullptr);
+    explicit BarProgressView(const QRectF& frame, QQuickItem* parent = nullptr);
 
     double progress() const { return progress_; }
     void setProgress(double progress) { change(progress_, progress); }  // 0.0 to 1.0
+    const QColor& lineColor() const { return lineColor_; }
     void setLineColor(const QColor& color) { change(lineColor_, color); }
+    const QColor& progressColor() const { return progressColor_; }
     void setProgressColor(const QColor& color) { change(progressColor_, color); }
+    const QColor& progressRemainingColor() const { return progressRemainingColor_; }
     void setProgressRemainingColor(const QColor& color) { change(progressRemainingColor_, color); }
 
     void paint(QPainter* painter) override;

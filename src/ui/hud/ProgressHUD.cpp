@@ -1,11 +1,10 @@
 #include "ui/hud/ProgressHUD.h"
 
-#include <QCoreApplication>
-#include <QGuiApplication>
-#include <thread>
+#include <limits>
 #include <utility>
 
 #include "platform/threads/MainThread.h"
+#include "platform/threads/PlatformQueues.h"
 #include "platform/views/Accessibility.h"
 
 namespace tarnwick {
@@ -16,26 +15,34 @@ constexpr double animationDuration = 0.3;
 constexpr double hiddenOpacity = 0.01;  // at the end of an animated hide
 constexpr double smallScale = 0.5;
 constexpr double largeScale = 1.5;
-constexpr int labelFontSize = 16;
-constexpr int detailsFontSize = 12;
+constexpr double depth = 1.0;  // above what is added to the view later, too
 
-QFont boldSystemFont(int size) {
-    QFont font = QGuiApplication::font();
-    font.setBold(true);
-    font.setPixelSize(size);
-    return font;
+QRectF boundsOf(const QQuickItem* view) {
+    Q_ASSERT_X(view != nullptr, "ProgressHUD", "View must not be nil.");
+    return {QPointF(0, 0), view->size()};
+}
+
+// Where a HUD that zooms comes from, and where it goes.
+double scaleBefore(ProgressHUD::AnimationType type) {
+    if (type == ProgressHUD::AnimationFade)
+        return 1.0;
+    return type == ProgressHUD::AnimationZoomUp ? smallScale : largeScale;
+}
+
+double scaleAfter(ProgressHUD::AnimationType type) {
+    if (type == ProgressHUD::AnimationFade)
+        return 1.0;
+    return type == ProgressHUD::AnimationZoomUp ? largeScale : smallScale;
 }
 
 void place(QQuickItem* item, const QRectF& frame) {
-    if (item == nullptr)
-        return;
     item->setPosition(frame.topLeft());
     item->setSize(frame.size());
 }
 
 }  // namespace
 
-ProgressHUD::ProgressHUD(QQuickItem* view)
+ProgressHUD::ProgressHUD(const QRectF& frame)
     : InputBlocker(nullptr),
       box_(new ProgressHUDBox(this)),
       label_(new LabelView(this)),
@@ -44,24 +51,25 @@ ProgressHUD::ProgressHUD(QQuickItem* view)
       graceTimer_(new Pause(this)),
       minShowTimer_(new Pause(this)),
       sinceShown_(new Stopwatch(this)) {
-    Q_ASSERT_X(view != nullptr, "ProgressHUD", "View must not be nil.");
-    setSize(view->size());
-    setOpacity(0);
+    place(this, frame);
+    setZ(depth);
+    QQuickItem::setOpacity(0);
     setVisible(false);
-    contents_.details = [this](const QSizeF& limit) { return detailsLabel_->sizeWithin(limit); };
-    label_->setLines(LabelView::Lines::One);
-    label_->setFont(boldSystemFont(labelFontSize));
-    label_->setColor(Qt::white);
-    detailsLabel_->setFont(boldSystemFont(detailsFontSize));
-    detailsLabel_->setColor(Qt::white);
-    describeAll();
+    label_->setLines(LabelView::Lines::Unwrapped);
+    rebuildIndicator();
+    applyTexts();
 }
 
-ProgressHUD::ProgressHUD(QQuickWindow* window) : ProgressHUD(window->contentItem()) {}
+ProgressHUD::ProgressHUD(QQuickItem* view) : ProgressHUD(boundsOf(view)) {}
+
+ProgressHUD::ProgressHUD(QQuickWindow* window)
+    : ProgressHUD(window != nullptr ? window->contentItem() : nullptr) {}
+
+ProgressHUD::~ProgressHUD() = default;
 
 ProgressHUD* ProgressHUD::showHUDAddedTo(QQuickItem* view, Animated animated) {
     auto* hud = new ProgressHUD(view);
-    hud->removeFromSuperViewOnHide = true;
+    hud->setRemoveFromSuperViewOnHide(true);
     hud->setParent(view);
     hud->setParentItem(view);
     hud->show(animated);
@@ -72,7 +80,7 @@ bool ProgressHUD::hideHUDForView(QQuickItem* view, Animated animated) {
     ProgressHUD* hud = HUDForView(view);
     if (hud == nullptr)
         return false;
-    hud->removeFromSuperViewOnHide = true;
+    hud->setRemoveFromSuperViewOnHide(true);
     hud->hide(animated);
     return true;
 }
@@ -80,7 +88,7 @@ bool ProgressHUD::hideHUDForView(QQuickItem* view, Animated animated) {
 int ProgressHUD::hideAllHUDsForView(QQuickItem* view, Animated animated) {
     const auto huds = allHUDsForView(view);
     for (ProgressHUD* hud : huds) {
-        hud->removeFromSuperViewOnHide = true;
+        hud->setRemoveFromSuperViewOnHide(true);
         hud->hide(animated);
     }
     return static_cast<int>(huds.size());
@@ -99,59 +107,63 @@ std::vector<ProgressHUD*> ProgressHUD::allHUDsForView(QQuickItem* view) {
     return huds;
 }
 
+// Showing and hiding.
+
 void ProgressHUD::show(Animated animated) {
     useAnimation_ = animated;
     finished_ = false;
-    if (graceTime <= 0) {
+    if (graceTime() <= 0) {
         showNow();
         return;
     }
-    graceTimer_->start(graceTime, [this] {
-        if (taskInProgress)
+    graceTimer_->start(graceTime(), [this] {
+        if (taskInProgress())
             showNow();
     });
 }
 
 void ProgressHUD::showNow() {
-    const bool animated = useAnimation_ == Animated::Yes;
+    minShowTimer_->cancel();  // which would hide it
     setVisible(true);
     coverSiblings();
     polish();
     sinceShown_->start();
-    if (!animated) {
-        applyAtOnce({{this, Change::Property::Opacity, 1.0}});
-        return;
-    }
-    std::vector<Change> changes = {{this, Change::Property::Opacity, 1.0}};
-    if (animationType != AnimationFade) {
-        const double from = animationType == AnimationZoomUp ? smallScale : largeScale;
-        applyAtOnce({{this, Change::Property::Scale, from}});
-        changes.push_back({this, Change::Property::Scale, 1.0});
-    }
-    animate(animationDuration, Easing::InOut, changes);
+    const bool animated = useAnimation_ == Animated::Yes;
+    applyAtOnce({{this, Change::Property::Scale, animated ? scaleBefore(animationType()) : 1.0}});
+    const std::vector<Change> changes = {{this, Change::Property::Opacity, 1.0},
+                                         {this, Change::Property::Scale, 1.0}};
+    if (animated)
+        animate(animationDuration, Easing::InOut, changes);
+    else
+        applyAtOnce(changes);
 }
 
 // What lies under the HUD cannot be pressed by keys either.
 void ProgressHUD::coverSiblings() {
-    if (parentItem() == nullptr)
-        return;
-    QList<QQuickItem*> siblings = parentItem()->childItems();
+    QList<QQuickItem*> siblings;
+    if (parentItem() != nullptr)
+        siblings = parentItem()->childItems();
     siblings.removeIf([](QQuickItem* item) { return qobject_cast<ProgressHUD*>(item) != nullptr; });
     cover_ = std::make_unique<Cover>(siblings);
 }
 
 void ProgressHUD::hide(Animated animated) {
     useAnimation_ = animated;
-    const double missing = minShowTime - sinceShown_->seconds();
-    if (minShowTime > 0 && isShown() && missing > 0)
+    const double missing = minShowTime() - sinceShown_->seconds();
+    if (isShown() && minShowTime() > 0 && missing > 0)
         minShowTimer_->start(missing, [this] { hideNow(); });
     else
         hideNow();
 }
 
 void ProgressHUD::hideAfterDelay(Animated animated, double delay) {
-    delayedHides_.push_back(std::make_unique<Pause>(nullptr));
-    delayedHides_.back()->start(delay, [this, animated] { hide(animated); });
+    auto* pause = new Pause(this);
+    delayedHides_.push_back(pause);
+    pause->start(delay, [this, pause, animated] {
+        std::erase(delayedHides_, pause);
+        pause->deleteLater();
+        hide(animated);
+    });
 }
 
 void ProgressHUD::hideNow() {
@@ -161,143 +173,198 @@ void ProgressHUD::hideNow() {
         finish();
         return;
     }
-    std::vector<Change> changes = {{this, Change::Property::Opacity, hiddenOpacity}};
-    if (animationType != AnimationFade)
-        changes.push_back({this, Change::Property::Scale,
-                           animationType == AnimationZoomUp ? largeScale : smallScale});
-    animate(animationDuration, Easing::InOut, changes, [this, hud = QPointer(this)](bool finished) {
-        // Shown again meanwhile, or gone with its view: then there is nothing to finish.
-        if (finished && hud)
-            finish();
-    });
+    animate(animationDuration, Easing::InOut,
+            {{this, Change::Property::Opacity, hiddenOpacity},
+             {this, Change::Property::Scale, scaleAfter(animationType())}},
+            [this, hud = QPointer(this)](bool finished) {
+                // Shown again meanwhile, or gone with its view: then there is nothing to finish.
+                if (finished && hud)
+                    finish();
+            });
 }
 
 void ProgressHUD::finish() {
-    for (const auto& delayed : delayedHides_)
-        delayed->cancel();
     finished_ = true;
+    ++showing_;
+    endTimers();
     applyAtOnce({{this, Change::Property::Opacity, 0.0}, {this, Change::Property::Scale, 1.0}});
     setVisible(false);
     cover_.reset();
-    const Block completion = std::exchange(completionBlock, nullptr);
-    const QPointer<ProgressHUD> hud = this;
-    if (removeFromSuperViewOnHide) {
+    if (removeFromSuperViewOnHide())
         setParentItem(nullptr);
-        if (parent() != nullptr)
-            deleteLater();  // nobody else will
-    }
-    if (completion)
+    const QPointer<ProgressHUD> hud = this;
+    if (const Block completion = takeCompletionBlock())
         completion();
-    if (hud && delegate_.get() != nullptr)
-        delegate_.get()->hudWasHidden(this);
+    if (hud && delegate() != nullptr)
+        delegate()->hudWasHidden(this);
+    if (hud)
+        deleteIfDone();
 }
 
+void ProgressHUD::endTimers() {
+    graceTimer_->cancel();
+    minShowTimer_->cancel();
+    for (Pause* delayed : std::exchange(delayedHides_, {})) {
+        delayed->cancel();
+        delayed->deleteLater();
+    }
+}
+
+// Unless it was shown again when it had been hidden, or a task may still use it.
+void ProgressHUD::deleteIfDone() {
+    if (finished_ && removeFromSuperViewOnHide() && parent() != nullptr)
+        deleteLater();
+}
+
+// Bound tasks.
+
 void ProgressHUD::showWhileExecuting(Block method, Animated animated) {
-    taskInProgress = true;
-    std::thread(boundTask(std::move(method))).detach();
+    run(std::move(method), &TaskQueues::runInBackground, PlatformQueues::ofApplication());
     show(animated);
 }
 
 void ProgressHUD::showAnimatedWhileExecutingBlock(Animated animated, Block block,
-                                                  QThreadPool* queue, Block completion) {
-    taskInProgress = true;
-    completionBlock = std::move(completion);
-    QThreadPool* pool = queue != nullptr ? queue : QThreadPool::globalInstance();
-    pool->start(boundTask(std::move(block)));
+                                                  TaskQueues* queues, Block completion) {
+    setCompletionBlock(std::move(completion));
+    run(std::move(block), &TaskQueues::dispatchToGlobalQueue,
+        queues != nullptr ? *queues : PlatformQueues::ofApplication());
     show(animated);
 }
 
-ProgressHUD::Block ProgressHUD::boundTask(Block block) {
-    return [hud = QPointer(this), block = std::move(block)] {
-        block();
-        performLaterOnMainThread(QCoreApplication::instance(), [hud] {
-            if (hud)
-                hud->cleanUp();
-        });
+void ProgressHUD::run(Block block, void (TaskQueues::*start)(Block), TaskQueues& queues) {
+    setTaskInProgress(true);
+    keepWhileTasksRun();
+    const Block whenDone = [hud = QPointer(this), task = ++task_, showing = showing_] {
+        if (hud)
+            hud->cleanUp(task, showing);
     };
-}
-
-void ProgressHUD::cleanUp() {
-    taskInProgress = false;
-    hide(useAnimation_);
-}
-
-void ProgressHUD::changeOnMainThread(Block change) {
-    performOnMainThread(this, [this, change = std::move(change)] {
-        change();
-        describeAll();
-        polish();
+    (queues.*start)([block = std::move(block), whenDone, &queues] {
+        block();
+        queues.dispatchToMainQueue(whenDone);
     });
 }
 
-void ProgressHUD::setMode(Mode mode) {
-    changeOnMainThread([this, mode] { indicator_.setMode(mode); });
+void ProgressHUD::keepWhileTasksRun() {
+    if (runningTasks_++ > 0)
+        return;
+    hasOwner_ = parent() != nullptr;
+    owner_ = parent();
+    setParent(nullptr);
 }
 
-void ProgressHUD::setCustomView(QQuickItem* view) {
-    changeOnMainThread([this, view = QPointer(view)] { indicator_.setCustomView(view); });
+void ProgressHUD::returnToOwner() {
+    if (!std::exchange(hasOwner_, false))
+        return;
+    setParent(owner_);
+    if (owner_ == nullptr) {
+        useAnimation_ = Animated::No;
+        deleteLater();
+    }
 }
 
-void ProgressHUD::setActivityIndicatorColor(const QColor& color) {
-    changeOnMainThread([this, color] { indicator_.setSpinnerColor(color); });
+// A task does not hide what was shown anew after it had been hidden.
+void ProgressHUD::cleanUp(int task, int showing) {
+    if (--runningTasks_ == 0)
+        returnToOwner();
+    if (task == task_)
+        setTaskInProgress(false);
+    if (showing == showing_)
+        hide(useAnimation_);
+    else
+        deleteIfDone();
 }
 
-void ProgressHUD::setProgress(double progress) {
-    changeOnMainThread([this, progress] { indicator_.setProgress(progress); });
+// Properties and layout.
+
+void ProgressHUD::propertyChanged(Effect effect) {
+    if (effect == Effect::Nothing)
+        return;
+    if (isMainThread())
+        apply(effect);
+    else if (!handedOver_.at(static_cast<std::size_t>(effect)).exchange(true))
+        performLaterOnMainThread(this, [this, effect] { apply(effect); });
 }
 
-void ProgressHUD::setLabelText(const QString& text) {
-    changeOnMainThread([this, text] { label_->setText(text); });
+void ProgressHUD::apply(Effect effect) {
+    handedOver_.at(static_cast<std::size_t>(effect)) = false;
+    if (effect == Effect::Indicator)
+        rebuildIndicator();
+    else if (effect == Effect::Progress)
+        indicator_.setProgress(progress());
+    else
+        applyTexts();
+    polish();
 }
 
-void ProgressHUD::setLabelFont(const QFont& font) {
-    changeOnMainThread([this, font] { label_->setFont(font); });
+void ProgressHUD::rebuildIndicator() {
+    indicator_.rebuild({.mode = mode(),
+                        .customView = customView(),
+                        .spinnerColor = activityIndicatorColor(),
+                        .progress = progress()});
 }
 
-void ProgressHUD::setLabelColor(const QColor& color) {
-    changeOnMainThread([this, color] { label_->setColor(color); });
+void ProgressHUD::applyTexts() {
+    label_->setText(labelText());
+    label_->setFont(labelFont());
+    label_->setColor(labelColor());
+    detailsLabel_->setText(detailsLabelText());
+    detailsLabel_->setFont(detailsLabelFont());
+    detailsLabel_->setColor(detailsLabelColor());
+    const QString name = labelText().isEmpty() ? QStringLiteral("Busy") : labelText();
+    describe(this, QAccessible::AlertMessage, name, detailsLabelText());
 }
 
-void ProgressHUD::setDetailsLabelText(const QString& text) {
-    changeOnMainThread([this, text] { detailsLabel_->setText(text); });
-}
-
-void ProgressHUD::setDetailsLabelFont(const QFont& font) {
-    changeOnMainThread([this, font] { detailsLabel_->setFont(font); });
-}
-
-void ProgressHUD::setDetailsLabelColor(const QColor& color) {
-    changeOnMainThread([this, color] { detailsLabel_->setColor(color); });
-}
-
-void ProgressHUD::describeAll() {
-    const QString name = label_->text().isEmpty() ? QStringLiteral("Busy") : label_->text();
-    describe(this, QAccessible::AlertMessage, name, detailsLabel_->text());
+HUDContents ProgressHUD::contents() {
+    constexpr double unlimited = std::numeric_limits<double>::infinity();
+    return {
+        .bounds = size(),
+        .indicator = indicator_.size(),
+        .label = label_->sizeWithin({unlimited, height()}),
+        .details = [this](const QSizeF& limit) { return detailsLabel_->sizeWithin(limit); },
+        .margin = margin(),
+        .offset = {xOffset(), yOffset()},
+        .square = square(),
+        .minSize = minSize(),
+    };
 }
 
 void ProgressHUD::updatePolish() {
     if (parentItem() != nullptr)
-        setSize(parentItem()->size());
-    contents_.bounds = size();
-    contents_.indicator = indicator_.size();
-    contents_.label = label_->sizeOnOneLine();
-    const HUDLayout layout = layOut(contents_);
+        place(this, boundsOf(parentItem()));
+    const HUDLayout layout = layOut(contents());
     box_->setSize(size());
     box_->frame = layout.box;
+    box_->color = color();
+    box_->fillOpacity = opacity();
+    box_->cornerRadius = cornerRadius();
+    box_->dimBackground = dimBackground();
     box_->update();
-    place(indicator_.view(), layout.indicator);
+    indicator_.place(layout.indicator);
     place(label_, layout.label);
     place(detailsLabel_, layout.details);
 }
 
 void ProgressHUD::followParent() {
-    connect(parentItem(), &QQuickItem::widthChanged, this, &QQuickItem::polish);
-    connect(parentItem(), &QQuickItem::heightChanged, this, &QQuickItem::polish);
+    const bool covers = cover_ != nullptr;
+    cover_.reset();
+    parentFollower_.reset();
+    if (parentItem() == nullptr)
+        return;
+    parentFollower_ = std::make_unique<QObject>();
+    const auto layOutAgain = [this] { polish(); };
+    connect(parentItem(), &QQuickItem::widthChanged, parentFollower_.get(), layOutAgain);
+    connect(parentItem(), &QQuickItem::heightChanged, parentFollower_.get(), layOutAgain);
+    connect(parentItem(), &QQuickItem::childrenChanged, parentFollower_.get(), [this] {
+        if (cover_)
+            coverSiblings();
+    });
+    if (covers)
+        coverSiblings();
     polish();
 }
 
 void ProgressHUD::itemChange(ItemChange change, const ItemChangeData& data) {
-    if (change == ItemParentHasChanged && data.item != nullptr)
+    if (change == ItemParentHasChanged)
         followParent();
     QQuickItem::itemChange(change, data);
 }

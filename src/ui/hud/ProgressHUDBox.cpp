@@ -3,14 +3,20 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "ui/hud/ProgressHUDLayout.h"
+
 namespace tarnwick {
 
 namespace {
 
+QColor black(double opacity) {
+    return QColor::fromRgbF(0, 0, 0, static_cast<float>(shareOf(opacity)));
+}
+
 QRadialGradient darkening(const QRectF& bounds) {
     QRadialGradient gradient(bounds.center(), std::min(bounds.width(), bounds.height()));
-    gradient.setColorAt(0, QColor::fromRgbF(0, 0, 0, 0));
-    gradient.setColorAt(1, QColor::fromRgbF(0, 0, 0, 0.75F));
+    gradient.setColorAt(0, black(0));
+    gradient.setColorAt(1, black(0.75));
     return gradient;
 }
 
@@ -21,9 +27,9 @@ void ProgressHUDBox::paint(QPainter* painter) {
     if (dimBackground)
         painter->fillRect(boundingRect(), darkening(boundingRect()));
     painter->setPen(Qt::NoPen);
-    painter->setBrush(color.isValid() ? color
-                                      : QColor::fromRgbF(0, 0, 0, static_cast<float>(fillOpacity)));
-    painter->drawRoundedRect(frame, cornerRadius, cornerRadius);
+    painter->setBrush(color.isValid() ? color : black(fillOpacity));
+    const double radius = std::max(cornerRadius, 0.0);
+    painter->drawRoundedRect(frame, radius, radius);
 }
 
 }  // namespace tarnwick

@@ -1,87 +1,104 @@
 #include "ui/hud/ProgressHUDIndicator.h"
 
+#include <utility>
+
 #include "platform/views/ActivityIndicatorView.h"
 #include "ui/hud/BarProgressView.h"
 #include "ui/hud/RoundProgressView.h"
 
 namespace tarnwick {
 
-ProgressHUDIndicator::ProgressHUDIndicator(QQuickItem* hud) : hud_(hud) {
-    rebuild();
-}
-
-void ProgressHUDIndicator::setMode(HUDMode mode) {
-    mode_ = mode;
-    rebuild();
-}
-
-void ProgressHUDIndicator::setCustomView(QQuickItem* view) {
-    customView_ = view;
-    rebuild();
-}
-
-void ProgressHUDIndicator::setSpinnerColor(const QColor& color) {
-    spinnerColor_ = color;
-    rebuild();
+void ProgressHUDIndicator::rebuild(const Kind& kind) {
+    switch (kind.mode) {
+        case ModeIndeterminate:
+            return showSpinner(kind.spinnerColor);
+        case ModeBar:
+            showOwn(std::make_unique<BarProgressView>());
+            break;
+        case ModePie:
+        case ModeRing:
+            showRound(kind.mode);
+            break;
+        case ModeCustomView:
+            return showCustom(kind.customView);
+        case ModeTextOnly:
+            return remove();
+    }
+    setProgress(kind.progress);
 }
 
 void ProgressHUDIndicator::setProgress(double progress) {
-    progress_ = progress;
-    passProgressOn();
-}
-
-void ProgressHUDIndicator::rebuild() {
-    switch (mode_) {
-        case ModeIndeterminate:
-            return showSpinner();
-        case ModeBar:
-            return replaceBy(new BarProgressView(hud_));
-        case ModePie:
-        case ModeRing:
-            return showRound();
-        case ModeTextOnly:
-            return replaceBy(nullptr);
-        case ModeCustomView:
-            if (customView_ != view_)
-                replaceBy(customView_);
-    }
-}
-
-void ProgressHUDIndicator::showSpinner() {
-    if (qobject_cast<ActivityIndicatorView*>(view_) == nullptr) {
-        auto* spinner = new ActivityIndicatorView(hud_);
-        spinner->startAnimating();
-        replaceBy(spinner);
-    }
-    qobject_cast<ActivityIndicatorView*>(view_)->setColor(spinnerColor_);
-}
-
-void ProgressHUDIndicator::showRound() {
-    if (qobject_cast<RoundProgressView*>(view_) == nullptr)
-        replaceBy(new RoundProgressView(hud_));
-    // A pie that follows a ring stays a ring.
-    if (mode_ == ModeRing)
-        qobject_cast<RoundProgressView*>(view_)->setAnnular(true);
-}
-
-void ProgressHUDIndicator::replaceBy(QQuickItem* view) {
-    if (view_)
-        view_->setParentItem(nullptr);
-    if (isOurs_)
-        delete view_;
-    view_ = view;
-    isOurs_ = mode_ != ModeCustomView;
-    if (view_ == nullptr)
-        return;
-    size_ = view_->size();
-    view_->setParentItem(hud_);
-    if (isOurs_)
-        passProgressOn();
-}
-
-void ProgressHUDIndicator::passProgressOn() {
     if (view_ && view_->metaObject()->indexOfProperty("progress") >= 0)
-        view_->setProperty("progress", progress_);
+        view_->setProperty("progress", progress);
+}
+
+void ProgressHUDIndicator::showSpinner(const QColor& color) {
+    if (qobject_cast<ActivityIndicatorView*>(own_.get()) == nullptr) {
+        auto spinner = std::make_unique<ActivityIndicatorView>(nullptr);
+        spinner->startAnimating();
+        showOwn(std::move(spinner));
+    }
+    qobject_cast<ActivityIndicatorView*>(own_.get())->setColor(color);
+}
+
+void ProgressHUDIndicator::showRound(HUDMode mode) {
+    if (qobject_cast<RoundProgressView*>(own_.get()) == nullptr)
+        showOwn(std::make_unique<RoundProgressView>());
+    // A pie that follows a ring stays a ring.
+    if (mode == ModeRing)
+        qobject_cast<RoundProgressView*>(own_.get())->setAnnular(true);
+}
+
+void ProgressHUDIndicator::showCustom(QQuickItem* view) {
+    if (view_ == view)
+        return;
+    remove();
+    if (view != nullptr)
+        show(view);
+}
+
+void ProgressHUDIndicator::showOwn(std::unique_ptr<QQuickItem> view) {
+    remove();
+    own_ = std::move(view);
+    show(own_.get());
+}
+
+void ProgressHUDIndicator::show(QQuickItem* view) {
+    view_ = view;
+    placedSize_ = {};
+    view->setParentItem(hud_);
+    const auto follow = [this] {
+        if (view_->size() != placedSize_)
+            hud_->polish();
+    };
+    for (const auto changed : {&QQuickItem::widthChanged, &QQuickItem::heightChanged})
+        QObject::connect(view, changed, hud_, follow);
+    QObject::connect(view, &QObject::destroyed, hud_, &QQuickItem::polish);
+}
+
+void ProgressHUDIndicator::remove() {
+    if (view_) {
+        view_->disconnect(hud_);
+        view_->setParentItem(nullptr);
+    }
+    view_ = nullptr;
+    own_.reset();
+}
+
+QSizeF ProgressHUDIndicator::size() {
+    if (!view_)
+        return {0, 0};
+    if (view_->size() != placedSize_)
+        size_ = view_->size();
+    return size_;
+}
+
+void ProgressHUDIndicator::place(const QRectF& frame) {
+    if (!view_)
+        return;
+    placedSize_ = frame.size();
+    view_->setPosition(frame.topLeft());
+    view_->setSize(frame.size());
 }
 
 }  // namespace tarnwick

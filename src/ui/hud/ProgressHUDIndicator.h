@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QPointer>
 #include <QQuickItem>
+#include <memory>
 
 namespace tarnwick {
 
@@ -16,41 +17,45 @@ enum HUDMode {
     ModeTextOnly = 5
 };
 
-// Keeps the indicator of a HUD as its mode wants it: a child of the HUD, or none. Main thread.
+// The indicator of a HUD: a child of the HUD, or none. Main thread.
 class ProgressHUDIndicator {
 public:
-    // The HUD outlives this.
-    explicit ProgressHUDIndicator(QQuickItem* hud);
+    struct Kind {
+        HUDMode mode = ModeIndeterminate;
+        QQuickItem* customView = nullptr;  // is only put in and taken out, and may vanish
+        QColor spinnerColor = Qt::white;
+        double progress = 0.0;
+    };
 
-    HUDMode mode() const { return mode_; }
-    void setMode(HUDMode mode);
-    // The view stays with its owner, and may vanish.
-    void setCustomView(QQuickItem* view);
-    void setSpinnerColor(const QColor& color);
-    double progress() const { return progress_; }
+    // The HUD outlives this.
+    explicit ProgressHUDIndicator(QQuickItem* hud) : hud_(hud) {}
+    ~ProgressHUDIndicator() { remove(); }
+    ProgressHUDIndicator(const ProgressHUDIndicator&) = delete;
+    ProgressHUDIndicator& operator=(const ProgressHUDIndicator&) = delete;
+
+    void rebuild(const Kind& kind);
+    // For an indicator that takes a progress.
     void setProgress(double progress);
 
     // Null if there is none.
     QQuickItem* view() const { return view_; }
-    // The size that the view had when it became the indicator, as the layout may narrow it; zero
-    // if there is none.
-    QSizeF size() const { return view_ ? size_ : QSizeF(0, 0); }
+    // The size that the view has without the layout, which may narrow it; zero if there is none.
+    QSizeF size();
+    void place(const QRectF& frame);
 
 private:
-    void rebuild();
-    void showSpinner();
-    void showRound();
-    void replaceBy(QQuickItem* view);
-    void passProgressOn();
+    void showSpinner(const QColor& color);
+    void showRound(HUDMode mode);
+    void showCustom(QQuickItem* view);
+    void showOwn(std::unique_ptr<QQuickItem> view);
+    void show(QQuickItem* view);
+    void remove();
 
     QQuickItem* const hud_;
-    HUDMode mode_ = ModeIndeterminate;
-    QPointer<QQuickItem> customView_;
-    QColor spinnerColor_ = Qt::white;
-    double progress_ = 0.0;
     QPointer<QQuickItem> view_;
-    bool isOurs_ = false;  // and not the custom view
+    std::unique_ptr<QQuickItem> own_;  // null if the view is a custom one
     QSizeF size_;
+    QSizeF placedSize_;
 };
 
 }  // namespace tarnwick

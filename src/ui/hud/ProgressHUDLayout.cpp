@@ -25,9 +25,9 @@ QRectF centred(const QSizeF& size, double y, const HUDContents& contents) {
 }
 
 // Makes the box square where it fits into the bounds, each way for itself.
-QSizeF squared(const QSizeF& size, const HUDContents& contents) {
+QSizeF squared(const QSizeF& size, const HUDContents& contents, double margin) {
     const double side = std::max(size.width(), size.height());
-    const double space = 2 * contents.margin;
+    const double space = 2 * margin;
     return {side <= contents.bounds.width() - space ? side : size.width(),
             side <= contents.bounds.height() - space ? side : size.height()};
 }
@@ -35,8 +35,9 @@ QSizeF squared(const QSizeF& size, const HUDContents& contents) {
 }  // namespace
 
 HUDLayout layOut(const HUDContents& contents) {
-    const double margins = 4 * contents.margin;
-    const double widest = contents.bounds.width() - margins;
+    const double margin = std::max(contents.margin, 0.0);
+    const double margins = 4 * margin;
+    const double widest = std::max(contents.bounds.width() - margins, 0.0);
     const QSizeF indicator = capped(contents.indicator, widest);
     const QSizeF label = capped(contents.label, widest);
     const double above = heightAbove(indicator, label);
@@ -46,18 +47,19 @@ HUDLayout layOut(const HUDContents& contents) {
 
     QSizeF size(std::max({indicator.width(), label.width(), details.width()}),
                 above + detailsGap + details.height());
-    size += QSizeF(2 * contents.margin, 2 * contents.margin);
+    size += QSizeF(2 * margin, 2 * margin);
 
     HUDLayout layout;
-    double y = std::round((contents.bounds.height() - size.height()) / 2) + contents.margin +
-               contents.offset.y();
+    double y =
+        std::round((contents.bounds.height() - size.height()) / 2) + margin + contents.offset.y();
     layout.indicator = centred(indicator, y, contents);
     layout.label = centred(label, y + above - label.height(), contents);
     layout.details = centred(details, y + above + detailsGap, contents);
 
     if (contents.square)
-        size = squared(size, contents);
-    size = size.expandedTo(contents.minSize);
+        size = squared(size, contents, margin);
+    // A parent may be narrower than the margins alone.
+    size = size.boundedTo(contents.bounds).expandedTo(contents.minSize);
     y = std::round((contents.bounds.height() - size.height()) / 2) + contents.offset.y();
     layout.box = centred(size, y, contents);
     return layout;

@@ -3,6 +3,7 @@
 #include <QPointF>
 #include <QRectF>
 #include <QSizeF>
+#include <algorithm>
 #include <functional>
 
 namespace tarnwick {
@@ -29,5 +30,10 @@ struct HUDLayout {
 };
 
 HUDLayout layOut(const HUDContents& contents);
+
+// The nearest number from 0 to 1; 0 for what is no number.
+inline double shareOf(double value) {
+    return value > 0 ? std::min(value, 1.0) : 0.0;
+}
 
 }  // namespace tarnwick

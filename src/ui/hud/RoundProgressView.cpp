@@ -1,7 +1,10 @@
 #include "ui/hud/RoundProgressView.h"
 
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
+
+#include "ui/hud/ProgressHUDLayout.h"
 
 namespace tarnwick {
 
@@ -16,17 +19,24 @@ constexpr int twelveOClock = 90 * 16;
 constexpr int fullTurn = 360 * 16;
 
 int turned(double progress) {
-    return -static_cast<int>(std::lround(progress * fullTurn));
+    return -static_cast<int>(std::lround(shareOf(progress) * fullTurn));
 }
 
+// Nothing if the radius is negative, as in a view that is narrower than its lines.
 QRectF around(const QPointF& centre, double radius) {
-    return {centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius};
+    const double half = std::max(radius, 0.0);
+    return {centre.x() - half, centre.y() - half, 2 * half, 2 * half};
 }
 
 }  // namespace
 
-RoundProgressView::RoundProgressView(QQuickItem* parent) : PaintedView(parent) {
-    setSize({extent, extent});
+RoundProgressView::RoundProgressView(QQuickItem* parent)
+    : RoundProgressView({0, 0, extent, extent}, parent) {}
+
+RoundProgressView::RoundProgressView(const QRectF& frame, QQuickItem* parent)
+    : PaintedView(parent) {
+    setPosition(frame.topLeft());
+    setSize(frame.size());
     setAntialiasing(true);
 }
 

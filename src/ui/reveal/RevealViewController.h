@@ -77,7 +77,11 @@ public:
     bool clipsViewsToBounds() const { return clipsViewsToBounds_; }
     void setClipsViewsToBounds(bool clips);
 
-    void setDelegate(RevealViewControllerDelegate* delegate) { delegate_.set(delegate); }
+    // Null if none is set or it has been deleted.
+    RevealViewControllerDelegate* delegate() const { return delegate_.get(); }
+    void setDelegate(const WeakDelegate<RevealViewControllerDelegate>& delegate) {
+        delegate_ = delegate;
+    }
 
     ViewController* childForStatusBarStyle() const override;
     ViewController* childForStatusBarHidden() const override;

@@ -13,8 +13,9 @@ class GestureRecognizer;
 class RevealViewController;
 class ViewController;
 
-// Told of what a reveal container does, and asked what it may. Everything is optional. Locations
-// are the front view's x in points; for the progress see revealProgress().
+// Told of what a reveal container does, and asked what it may. Everything is optional. Held weakly:
+// an implementation is a QObject too. Locations are the front view's x in points; for the progress
+// see revealProgress().
 class RevealViewControllerDelegate {
 public:
     using Reveal = RevealViewController;
