@@ -64,6 +64,8 @@ TEST(RevealGeometry, ADragGoesAtHalfSpeedThroughTheOverdraw) {
     for (const Row& row : rows) {
         EXPECT_EQ(adjustedDragLocation(row.geometry, row.finger, row.position), row.front);
         EXPECT_EQ(adjustedDragLocation(row.geometry, -row.finger, row.position), -row.front);
+        const double caught = dragLocation(row.geometry, row.front, row.position);
+        EXPECT_EQ(adjustedDragLocation(row.geometry, caught, row.position), row.front);
     }
 }
 

@@ -127,7 +127,10 @@ public:
 protected:
     void updateCurrentValue(const QVariant& timePart) override {
         const double part = courseProgress(course_, timePart.toDouble(), seconds_);
-        setValue(*change_.item, change_.property, from_ + (change_.target - from_) * part);
+        const double value = part == 1.0 ? change_.target : from_ + (change_.target - from_) * part;
+        // From beyond a limit it comes back without a jump.
+        setValue(*change_.item, change_.property,
+                 std::clamp(value, std::min(change_.least, from_), std::max(change_.most, from_)));
     }
 
 private:

@@ -2,6 +2,7 @@
 
 #include <QQuickItem>
 #include <functional>
+#include <limits>
 #include <variant>
 #include <vector>
 
@@ -22,12 +23,15 @@ using Course = std::variant<Easing, Spring>;
 // at the end.
 double courseProgress(const Course& course, double timePart, double duration);
 
-// A property of an item and its target value.
+// A property of an item and its target value. A course that goes beyond the target, as a spring
+// does, stops at the limits.
 struct Change {
     enum class Property { Opacity, Scale, X, Y, Width, Height };
     QQuickItem* item;
     Property property;
     double target;
+    double least = -std::numeric_limits<double>::infinity();
+    double most = std::numeric_limits<double>::infinity();
 };
 
 // Called once at the end. `finished` is false if another animation took over one of the properties,

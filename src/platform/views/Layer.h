@@ -25,7 +25,7 @@ public:
     // Whether the view clips its content.
     void setMasksToBounds(bool masks);
 
-    // Drawn around the layer's rectangle, not below it.
+    // Drawn around the layer's rectangle; below it only as far as it is shifted from there.
     void setShadow(const Shadow& shadow);
 
 private:

@@ -2,6 +2,7 @@
 
 #include <QQuickWindow>
 #include <QSGImageNode>
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <memory>
@@ -11,6 +12,9 @@ namespace tarnwick {
 namespace {
 
 constexpr int patchesInARow = 3;
+constexpr std::size_t patchCount = patchesInARow * patchesInARow;
+
+constexpr double sharpest = 0.01;  // the radius of an edge without blur, in pixels
 
 // The strength of a blurred edge at a distance inside it, in standard deviations.
 double edgeStrength(double deviations) {
@@ -41,7 +45,10 @@ public:
         const QImage picture = shadowPicture(shadow, window->effectiveDevicePixelRatio());
         texture_.reset(
             window->createTextureFromImage(picture, QQuickWindow::TextureHasAlphaChannel));
+        const bool hasMiddle = reachesBeyond(shadow);
         for (std::size_t place = 0; place < patches_.size(); ++place) {
+            if (place == patches_.size() / 2 && !hasMiddle)
+                continue;
             patches_[place] = window->createImageNode();
             patches_[place]->setTexture(texture_.get());
             patches_[place]->setOwnsTexture(false);
@@ -56,39 +63,45 @@ public:
         const double side = texture_->textureSize().width();
         // A single pixel is stretched between the corners.
         const Cuts source = {{0, side / 2, side / 2 + 1, side}};
-        std::size_t next = 0;
-        for (std::size_t row = 0; row < patchesInARow; ++row) {
-            for (std::size_t column = 0; column < patchesInARow; ++column) {
-                if (row == 1 && column == 1)
-                    continue;  // below the rectangle
-                patches_[next]->setRect(columns.patch(rows, column, row));
-                patches_[next++]->setSourceRect(source.patch(source, column, row));
-            }
+        for (std::size_t place = 0; place < patches_.size(); ++place) {
+            if (patches_[place] == nullptr)
+                continue;
+            const std::size_t row = place / patchesInARow;
+            const std::size_t column = place % patchesInARow;
+            patches_[place]->setRect(columns.patch(rows, column, row));
+            patches_[place]->setSourceRect(source.patch(source, column, row));
         }
     }
 
 private:
+    // Whether the middle of the shadow is seen beside the rectangle that casts it.
+    bool reachesBeyond(const Shadow& shadow) const {
+        return std::abs(shadow.offset.width()) > extent_ ||
+               std::abs(shadow.offset.height()) > extent_;
+    }
+
     const double extent_;
     std::unique_ptr<QSGTexture> texture_;
-    std::array<QSGImageNode*, 8> patches_ = {};
+    std::array<QSGImageNode*, patchCount> patches_ = {};  // by rows; null: below the rectangle
 };
 
 }  // namespace
 
 double shadowExtent(const Shadow& shadow) {
-    return std::ceil(3.0 * shadow.radius);
+    return std::max(1.0, std::ceil(3.0 * shadow.radius));
 }
 
 QImage shadowPicture(const Shadow& shadow, double devicePixelRatio) {
     const int side = static_cast<int>(std::lround(4 * shadowExtent(shadow) * devicePixelRatio));
-    const double radius = shadow.radius * devicePixelRatio;
+    const double opacity = std::min(shadow.opacity, 1.0);
+    const double radius = std::max(sharpest, shadow.radius * devicePixelRatio);
     QImage picture(side, side, QImage::Format_ARGB32_Premultiplied);
     for (int y = 0; y < side; ++y) {
         for (int x = 0; x < side; ++x) {
             const double strength =
                 strengthAt(x + 0.5, side, radius) * strengthAt(y + 0.5, side, radius);
             QColor color = shadow.color;
-            color.setAlphaF(static_cast<float>(color.alphaF() * shadow.opacity * strength));
+            color.setAlphaF(static_cast<float>(color.alphaF() * opacity * strength));
             picture.setPixelColor(x, y, color);
         }
     }
@@ -113,7 +126,7 @@ QSGNode* ShadowView::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
         old = nullptr;
         changed_ = false;
     }
-    if (shadow_.opacity <= 0 || shadow_.radius <= 0 || size().isEmpty())
+    if (shadow_.opacity <= 0 || size().isEmpty())
         return nullptr;
     auto* node = static_cast<ShadowNode*>(old);
     if (node == nullptr)

@@ -12,7 +12,7 @@ struct Shadow {
     QColor color = Qt::black;
     double opacity = 0.0;
     QSizeF offset = {0, 0};
-    double radius = 3.0;  // of the blur: its standard deviation
+    double radius = 3.0;  // of the blur: its standard deviation; at 0 the edges are sharp
 
     bool operator==(const Shadow&) const = default;
 };
@@ -25,8 +25,8 @@ double shadowExtent(const Shadow& shadow);
 // the extent. Patches of it make the shadow of any larger rectangle.
 QImage shadowPicture(const Shadow& shadow, double devicePixelRatio);
 
-// Draws a shadow around its own bounds from eight patches, so that the cost does not grow with the
-// size. Main thread.
+// Draws a shadow around its own bounds from patches, so that the cost does not grow with the size;
+// a shadow that is shifted from below the bounds has a middle too. Main thread.
 class ShadowView : public QQuickItem {
     Q_OBJECT
 

@@ -103,14 +103,28 @@ void RevealViewController::beginDrag() {
     panInitialFrontPosition_ = frontViewPosition_;
     userInteractionOff_ = std::make_unique<Cover>(QList<QQuickItem*>{revealView_});
     revealView_->disableLayout = true;
+    catchMovingFront();
     if (auto* delegate = delegate_.get())
         delegate->revealControllerPanGestureBegan(*this);
     reportDrag(&RevealViewControllerDelegate::
                    revealControllerPanGestureBeganFromLocationProgressOverProgress);
 }
 
+// It stops where it is, with what it reveals there, and follows the finger from there.
+void RevealViewController::catchMovingFront() {
+    const double x = frontX();
+    const double end = frontLocation(geometry(), panInitialFrontPosition_);
+    dragOffset_ = 0;
+    if (x == end)
+        return;
+    const double dragged = dragLocation(geometry(), x, panInitialFrontPosition_);
+    dragOffset_ = dragged - end;
+    prepareSidesFor(x < 0 ? FrontPositionSlidLeft : FrontPositionSlidRight);
+    revealView_->dragFrontViewTo(dragged);
+}
+
 void RevealViewController::drag() {
-    double x = frontLocation(geometry(), panInitialFrontPosition_) +
+    double x = frontLocation(geometry(), panInitialFrontPosition_) + dragOffset_ +
                panGestureRecognizer_->translation(revealView_).x();
     if (x != 0) {
         const bool towardsRear = x > 0;

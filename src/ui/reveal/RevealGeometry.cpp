@@ -1,5 +1,6 @@
 #include "ui/reveal/RevealGeometry.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
@@ -34,6 +35,23 @@ RevealPosition slowTarget(const RevealSide& side, double width, double x) {
             return FrontPositionSlidRightMost;
     }
     return x > width * 0.5 ? FrontPositionSlidRight : FrontPositionClosed;
+}
+
+// How far the front view follows a finger outwards, and how far at half its speed beyond that.
+struct DragZones {
+    double width;
+    double overdraw;
+};
+
+DragZones dragZones(const RevealGeometry& geometry, double x, RevealPosition position) {
+    const RevealSide& side = geometry.sideOf(x);
+    const double width = geometry.revealWidth(side);
+    const bool stable = !side.bounceBackOnOverdraw || side.stableDragOnOverdraw ||
+                        position == FrontPositionSlidRightMost ||
+                        position == FrontPositionSlidLeftMost;
+    if (stable)
+        return {.width = width + side.revealOverdraw, .overdraw = 0};
+    return {.width = width, .overdraw = side.revealOverdraw};
 }
 
 RevealMove flickMove(const RevealSide& side, double width, double x, double velocity) {
@@ -89,23 +107,46 @@ QRectF rightFrame(const RevealGeometry& geometry, double x) {
 }
 
 double adjustedDragLocation(const RevealGeometry& geometry, double x, RevealPosition position) {
-    const int factor = factorOf(x);
-    const RevealSide& side = geometry.sideOf(x);
-    double width = geometry.revealWidth(side);
-    double overdraw = side.revealOverdraw;
-    const bool stable = !side.bounceBackOnOverdraw || side.stableDragOnOverdraw ||
-                        position == FrontPositionSlidRightMost ||
-                        position == FrontPositionSlidLeftMost;
-    if (stable) {
-        width += overdraw;
-        overdraw = 0;
-    }
-    const double outwards = x * factor;
+    const auto [width, overdraw] = dragZones(geometry, x, position);
+    const double outwards = std::abs(x);
+    double adjusted = width + overdraw;
     if (outwards <= width)
-        return x;
-    if (outwards <= width + 2 * overdraw)
-        return (width + (outwards - width) / 2) * factor;
-    return (width + overdraw) * factor;
+        adjusted = outwards;
+    else if (outwards <= width + 2 * overdraw)
+        adjusted = width + (outwards - width) / 2;
+    return adjusted * factorOf(x);
+}
+
+double dragLocation(const RevealGeometry& geometry, double x, RevealPosition position) {
+    const auto [width, overdraw] = dragZones(geometry, x, position);
+    const double outwards = std::abs(x);
+    return (outwards <= width ? outwards : outwards + (outwards - width)) * factorOf(x);
+}
+
+RevealLimits frontLimits(const RevealGeometry& geometry, bool hasRear, bool hasRight) {
+    const auto at = [&geometry](RevealPosition position) {
+        return frontLocation(geometry, position);
+    };
+    return {.least = hasRight
+                         ? std::min({0.0, at(FrontPositionSlidLeft), at(FrontPositionSlidLeftMost)})
+                         : 0.0,
+            .most = hasRear ? std::max(
+                                  {0.0, at(FrontPositionSlidRight), at(FrontPositionSlidRightMost)})
+                            : 0.0};
+}
+
+RevealLimits rearLimits(const RevealGeometry& geometry) {
+    const auto [least, most] =
+        std::minmax({rearFrame(geometry, 0).x(),
+                     rearFrame(geometry, frontLocation(geometry, FrontPositionSlidRight)).x()});
+    return {.least = least, .most = most};
+}
+
+RevealLimits rightLimits(const RevealGeometry& geometry) {
+    const auto [least, most] =
+        std::minmax({rightFrame(geometry, 0).x(),
+                     rightFrame(geometry, frontLocation(geometry, FrontPositionSlidLeft)).x()});
+    return {.least = least, .most = most};
 }
 
 bool dragMayBegin(const RevealDrag& drag) {

@@ -53,6 +53,19 @@ QRectF rightFrame(const RevealGeometry& geometry, double x);
 // than it.
 double adjustedDragLocation(const RevealGeometry& geometry, double x, RevealPosition position);
 
+// Where a finger has dragged a front view that is at x: what adjustedDragLocation() makes x of.
+double dragLocation(const RevealGeometry& geometry, double x, RevealPosition position);
+
+// How far a view may go when it overshoots the end of its move.
+struct RevealLimits {
+    double least;
+    double most;
+};
+// Of the front view: no further than there is something to reveal.
+RevealLimits frontLimits(const RevealGeometry& geometry, bool hasRear, bool hasRight);
+RevealLimits rearLimits(const RevealGeometry& geometry);
+RevealLimits rightLimits(const RevealGeometry& geometry);
+
 // A drag that wants to begin: where its touch went down and how far it has gone since.
 struct RevealDrag {
     double from;

@@ -70,6 +70,8 @@ void RevealViewController::replace(ChildReplacement operation, const Controller&
         delegate->revealControllerWillAddViewControllerForOperationAnimated(*this, controller.get(),
                                                                             operation, animated);
     const Controller old = std::exchange(childOf(operation), controller);
+    if (isViewLoaded() && operation != ReplaceFront && controller)
+        prepareLateSide(operation);
     QQuickItem* slot = isViewLoaded() ? revealView_->slotOf(operation) : nullptr;
     const Step completion = [this, self = weak_from_this(), operation, controller, animated,
                              whenDone, finish = changeOver(old, controller, slot)] {
@@ -83,6 +85,17 @@ void RevealViewController::replace(ChildReplacement operation, const Controller&
         animateReplacement(operation, old, controller, completion);
     else
         completion();
+}
+
+void RevealViewController::prepareLateSide(ChildReplacement side) {
+    RevealPosition& current = side == ReplaceRear ? rearViewPosition_ : rightViewPosition_;
+    const RevealPosition position =
+        side == ReplaceRear ? rearPosition(frontViewPosition_) : frontViewPosition_;
+    if (!isSeen(side, position) || isSeen(side, current))
+        return;
+    current = position;
+    revealView_->prepareSideView(side);
+    revealView_->raiseShownSide(frontViewPosition_);
 }
 
 RevealViewController::Step RevealViewController::changeOver(const Controller& from,

@@ -6,6 +6,15 @@
 
 namespace tarnwick {
 
+bool isSeen(ChildReplacement child, RevealPosition position) {
+    if (position == FrontPositionNone)
+        return false;
+    if (child == ReplaceFront)
+        return position != FrontPositionSlidLeftRemoved &&
+               position != FrontPositionSlidRightRemoved;
+    return child == ReplaceRear ? position > FrontPositionClosed : position < FrontPositionClosed;
+}
+
 ContextTransitionObject::ContextTransitionObject(QQuickItem* containerView, Controller from,
                                                  Controller to, std::function<void()> completion)
     : containerView_(containerView),

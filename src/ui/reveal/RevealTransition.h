@@ -6,11 +6,15 @@
 #include <memory>
 
 #include "platform/controllers/ViewController.h"
+#include "ui/reveal/RevealGeometry.h"
 
 namespace tarnwick {
 
 // Which child of a reveal container is replaced.
 enum ChildReplacement : int { ReplaceRear = 1, ReplaceFront = 2, ReplaceRight = 3 };
+
+// Whether that child is to be seen while the front view is at the position.
+bool isSeen(ChildReplacement child, RevealPosition position);
 
 // One replacement that is to be animated: the view it happens in, and who goes and who comes;
 // either may be missing.

@@ -14,11 +14,12 @@ namespace tarnwick {
 
 namespace {
 
-void addFrame(std::vector<Change>& changes, QQuickItem* item, const QRectF& frame) {
+void addFrame(std::vector<Change>& changes, QQuickItem* item, const QRectF& frame,
+              const RevealLimits& limits) {
     using Property = Change::Property;
     if (item == nullptr)
         return;
-    changes.insert(changes.end(), {{item, Property::X, frame.x()},
+    changes.insert(changes.end(), {{item, Property::X, frame.x(), limits.least, limits.most},
                                    {item, Property::Y, frame.y()},
                                    {item, Property::Width, frame.width()},
                                    {item, Property::Height, frame.height()}});
@@ -75,18 +76,23 @@ QRectF RevealView::frontFrame(double x) const {
 
 std::vector<Change> RevealView::changesFor(double x) const {
     std::vector<Change> changes;
-    addFrame(changes, rearView(), rearFrame(geometry(), x));
-    addFrame(changes, rightView(), rightFrame(geometry(), x));
+    addFrame(changes, rearView(), rearFrame(geometry(), x), rearLimits(geometry()));
+    addFrame(changes, rightView(), rightFrame(geometry(), x), rightLimits(geometry()));
+    return changes;
+}
+
+std::vector<Change> RevealView::changesOfAll(double x) const {
+    std::vector<Change> changes = changesFor(x);
+    addFrame(changes, frontView(), frontFrame(x),
+             frontLimits(geometry(), controller_->rearViewController() != nullptr,
+                         controller_->rightViewController() != nullptr));
     return changes;
 }
 
 std::vector<Change> RevealView::layoutChanges() const {
     if (disableLayout)
         return {};
-    const double x = frontLocation(geometry(), controller_->frontViewPosition());
-    std::vector<Change> changes = changesFor(x);
-    addFrame(changes, frontView(), frontFrame(x));
-    return changes;
+    return changesOfAll(frontLocation(geometry(), controller_->frontViewPosition()));
 }
 
 void RevealView::layoutSubviews() {
@@ -98,9 +104,7 @@ void RevealView::dragFrontViewTo(double x) {
 }
 
 void RevealView::placeFrontViewAt(double x) {
-    std::vector<Change> changes = changesFor(x);
-    addFrame(changes, frontView(), frontFrame(x));
-    applyAtOnce(changes);
+    applyAtOnce(changesOfAll(x));
 }
 
 bool RevealView::contains(const QPointF& point) const {

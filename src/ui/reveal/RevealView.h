@@ -55,7 +55,8 @@ protected:
 
 private:
     RevealGeometry geometry() const;
-    std::vector<Change> changesFor(double x) const;
+    std::vector<Change> changesFor(double x) const;  // of the side views
+    std::vector<Change> changesOfAll(double x) const;
     QRectF frontFrame(double x) const;
     void placeFrontViewAt(double x);
 

@@ -12,22 +12,6 @@
 
 namespace tarnwick {
 
-namespace {
-
-bool isRemoved(RevealPosition position) {
-    return position == FrontPositionSlidLeftRemoved || position == FrontPositionSlidRightRemoved;
-}
-
-bool shows(ChildReplacement child, RevealPosition position) {
-    if (position == FrontPositionNone)
-        return false;
-    if (child == ReplaceFront)
-        return !isRemoved(position);
-    return child == ReplaceRear ? position > FrontPositionClosed : position < FrontPositionClosed;
-}
-
-}  // namespace
-
 RevealViewController::RevealViewController() = default;
 
 RevealViewController::RevealViewController(const Controller& rearViewController,
@@ -183,8 +167,12 @@ std::vector<Change> RevealViewController::animationStep(double duration) {
 }
 
 RevealViewController::Step RevealViewController::deployRear(RevealPosition position) {
-    return deploySide(ReplaceRear, rearViewPosition_,
-                      presentFrontViewHierarchically ? FrontPositionSlidRight : position);
+    return deploySide(ReplaceRear, rearViewPosition_, rearPosition(position));
+}
+
+// Beside a hierarchical front the menu is always seen.
+RevealPosition RevealViewController::rearPosition(RevealPosition position) const {
+    return presentFrontViewHierarchically ? FrontPositionSlidRight : position;
 }
 
 RevealViewController::Step RevealViewController::deployRight(RevealPosition position) {
@@ -195,13 +183,15 @@ RevealViewController::Step RevealViewController::deploySide(ChildReplacement sid
                                                             RevealPosition& current,
                                                             RevealPosition position) {
     const Controller& controller = childOf(side);
-    if (!controller && shows(side, position))
+    if (!controller && isSeen(side, position))
         position = FrontPositionClosed;
-    const bool wasShown = shows(side, std::exchange(current, position));
-    if (wasShown == shows(side, position))
+    const bool wasShown = isSeen(side, std::exchange(current, position));
+    if (wasShown == isSeen(side, position))
         return [] {};
     if (wasShown)
-        return [this, side, controller] {
+        return [this, side, controller, &current] {
+            if (isSeen(side, current))
+                return;  // a finger has brought it back meanwhile
             undeploy(controller);
             revealView_->unloadSideView(side);
         };
@@ -218,12 +208,12 @@ RevealViewController::Step RevealViewController::deployFront(RevealPosition posi
     const bool changes = position != frontViewPosition_;
     if (changes && delegate_.get() != nullptr)
         delegate_.get()->revealControllerWillMoveToPosition(*this, position);
-    const bool wasShown = shows(ReplaceFront, std::exchange(frontViewPosition_, position));
-    if (shows(ReplaceFront, position) && !wasShown)
+    const bool wasShown = isSeen(ReplaceFront, std::exchange(frontViewPosition_, position));
+    if (isSeen(ReplaceFront, position) && !wasShown)
         deploy(frontViewController_, revealView_->frontView());
-    const bool disappears = wasShown && !shows(ReplaceFront, position);
+    const bool disappears = wasShown && !isSeen(ReplaceFront, position);
     return [this, controller = frontViewController_, disappears, changes, position] {
-        if (disappears)
+        if (disappears && !isSeen(ReplaceFront, frontViewPosition_))
             undeploy(controller);
         if (changes && delegate_.get() != nullptr)
             delegate_.get()->revealControllerDidMoveToPosition(*this, position);

@@ -120,6 +120,7 @@ private:
 
     void setPosition(RevealPosition position, double duration);
     Step deployRear(RevealPosition position);
+    RevealPosition rearPosition(RevealPosition position) const;
     Step deployRight(RevealPosition position);
     // The side leaves its current position for the other one.
     Step deploySide(ChildReplacement side, RevealPosition& current, RevealPosition position);
@@ -130,6 +131,8 @@ private:
     void replace(ChildReplacement operation, const Controller& controller, Animated animated,
                  const Step& whenDone);
     Controller& childOf(ChildReplacement operation);
+    // Makes the view of a side that is to be seen and has had no child until now.
+    void prepareLateSide(ChildReplacement side);
     Step changeOver(const Controller& from, const Controller& to, QQuickItem* slot);
     void animateReplacement(ChildReplacement operation, const Controller& from,
                             const Controller& to, const Step& completion);
@@ -139,6 +142,7 @@ private:
     void handleRevealGesture();
     void handleTapGesture();
     void beginDrag();
+    void catchMovingFront();
     void drag();
     void endDrag();
     void cancelDrag();
@@ -159,6 +163,8 @@ private:
     RevealPosition rearViewPosition_ = FrontPositionClosed;
     RevealPosition rightViewPosition_ = FrontPositionClosed;
     RevealPosition panInitialFrontPosition_ = FrontPositionClosed;
+    double dragOffset_ =
+        0.0;  // of the place where a moving front was caught from where it was going
 
     Shadow frontViewShadow_ = {
         .color = Qt::black, .opacity = 1.0, .offset = {0, 2.5}, .radius = 2.5};
