@@ -49,23 +49,37 @@ void addRecipient(Arguments& arguments, const std::string& address) {
         arguments.fault = "\"" + address + "\" is not a mail address";
 }
 
-// Takes an option, with a value from the word itself, after "=", or from the next word. Returns the
-// number of words taken.
+void setFlag(Arguments& arguments, const Option& option, bool hasValue) {
+    if (hasValue)
+        arguments.fault = option.word + " takes no value";
+    else
+        arguments.*(option.flag) = true;
+}
+
+void takeValue(Arguments& arguments, const Option& option, const std::string& value) {
+    if (value.empty())
+        arguments.fault = option.word + " needs a value: " + option.values;
+    else
+        option.take(arguments, value);
+}
+
+// Takes an option, with a value from the word itself, after "=", or from the next word, unless that
+// is an option too. Returns the number of words taken.
 std::size_t takeOption(Arguments& arguments, const std::string& word, const std::string& next) {
     const std::size_t equals = word.find('=');
-    const Option* option = optionOf(word);
-    const Option* withValue = optionOf(word.substr(0, equals));
-    if (option != nullptr && option->take == nullptr) {
-        arguments.*(option->flag) = true;
-    } else if (option != nullptr) {
-        option->take(arguments, next);
-        return 2;
-    } else if (withValue != nullptr && withValue->take != nullptr) {
-        withValue->take(arguments, word.substr(equals + 1));
-    } else {
+    const bool hasValue = equals != std::string::npos;
+    const Option* option = optionOf(word.substr(0, equals));
+    if (option == nullptr) {
         arguments.fault = unknownWord("option", word, optionWords());
+        return 1;
     }
-    return 1;
+    arguments.options.push_back(option->word);
+    if (option->take == nullptr)
+        setFlag(arguments, *option, hasValue);
+    else
+        takeValue(arguments, *option,
+                  hasValue ? word.substr(equals + 1) : (next.starts_with("-") ? "" : next));
+    return option->take == nullptr || hasValue ? 1 : 2;
 }
 
 }  // namespace
@@ -88,24 +102,32 @@ const std::vector<Option>& optionTable() {
          .shortWord = "-n",
          .purpose = "print the command lines and file changes in order and do none of them",
          .flag = &Arguments::dryRun},
-        {.word = "--json", .purpose = "print one object a line", .flag = &Arguments::json},
+        {.word = "--json",
+         .purpose = "print one object a line",
+         .isForEveryVerb = true,
+         .flag = &Arguments::json},
         {.word = "--verbose",
          .shortWord = "-v",
          .purpose = "show what the started commands print",
          .flag = &Arguments::verbose},
         {.word = "--help",
          .shortWord = "-h",
-         .purpose = "print this help",
+         .purpose = "print this help, or that of the command",
+         .isForEveryVerb = true,
          .flag = &Arguments::help},
-        {.word = "--version", .purpose = "print the version", .flag = &Arguments::version},
+        {.word = "--version",
+         .purpose = "print the version",
+         .isForEveryVerb = true,
+         .flag = &Arguments::version},
     };
     return options;
 }
 
 std::string unknownWord(const std::string& noun, const std::string& typed,
                         const std::vector<std::string>& words) {
-    return "there is no " + noun + " \"" + typed + "\"; did you mean \"" +
-           nearestWord(typed, words) + "\" ?";
+    const std::string* nearest = nearestWord(typed, words);
+    return "there is no " + noun + " \"" + typed + "\"" +
+           (nearest == nullptr ? "" : "; did you mean \"" + *nearest + "\" ?");
 }
 
 Arguments parseArguments(const std::vector<std::string>& typed) {

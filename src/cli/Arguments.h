@@ -20,6 +20,8 @@ struct Arguments {
     // The answer to the offer after a restore: Offer::None is "nothing"; null asks.
     std::optional<Offer> then;
     std::vector<std::string> to;  // well-formed addresses
+    // The options that were typed, by their long words.
+    std::vector<std::string> options;
     // What is wrong with the options; the other fields are incomplete then.
     std::optional<std::string> fault;
 };
@@ -30,6 +32,7 @@ struct Option {
     std::string shortWord = {};
     std::string values = {};  // words between bars, or a placeholder in capitals
     std::string purpose;
+    bool isForEveryVerb = false;
     bool Arguments::*flag = nullptr;
     void (*take)(Arguments& arguments, const std::string& value) = nullptr;
 };
@@ -38,7 +41,7 @@ const std::vector<Option>& optionTable();
 // Takes the arguments without the program's name.
 Arguments parseArguments(const std::vector<std::string>& typed);
 
-// "there is no NOUN "TYPED"; did you mean "WORD" ?" with the nearest of the words.
+// "there is no NOUN "TYPED"", and "; did you mean "WORD" ?" if one of the words is near.
 std::string unknownWord(const std::string& noun, const std::string& typed,
                         const std::vector<std::string>& words);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "cli/CommandTable.h"
+#include "cli/Commands.h"
 #include "core/JoinedText.h"
 #include "core/Reasons.h"
 
@@ -10,18 +11,12 @@ namespace tarnwick {
 
 namespace {
 
-std::vector<std::string> namesOf(const std::vector<Command>& commands) {
-    std::vector<std::string> names;
-    for (const Command& command : commands)
-        names.push_back(command.name);
-    return names;
-}
-
-const Command* commandOf(const std::vector<Command>& commands, const std::string& name) {
-    const auto found =
-        std::find_if(commands.begin(), commands.end(),
-                     [&name](const Command& command) { return command.name == name; });
-    return found == commands.end() ? nullptr : &*found;
+// What is wrong with the options, for this command.
+std::optional<std::string> faultOf(const Command& command, const Arguments& arguments) {
+    for (const Option& option : optionTable())
+        if (std::ranges::count(arguments.options, option.word) > 0 && !knowsOption(command, option))
+            return command.name + " does not know " + option.word;
+    return std::nullopt;
 }
 
 // What is wrong with the words after the command's name.
@@ -41,7 +36,8 @@ std::optional<std::string> faultOf(const Command& command, const std::vector<std
 
 ExitStatus wrongUsage(Session& session, const std::string& fault) {
     session.output().complaint(fault);
-    session.output().prompt("Try \"tarnwick --help\".\n");
+    if (!session.arguments().json)
+        session.output().prompt("Try \"tarnwick --help\".\n");
     return WrongUsage;
 }
 
@@ -73,41 +69,43 @@ void mentionLeftRun(Session& session) {
     const RunLock lock(world.lockPath);
     if (lock.state() != RunLock::State::Held)
         return;
-    session.output().complaint(textOf(lock.left()));
+    session.output().complaint(textOf(lock.left()), {{"again", lock.left().what}});
     lock.clear();
 }
 
-ExitStatus runCommand(Session& session, const std::string& name,
+ExitStatus runCommand(Session& session, const Command& command,
                       const std::vector<std::string>& words) {
-    const auto commands = commandTable(session.catalogue());
-    const Command* command = commandOf(commands, name);
-    if (command == nullptr)
-        return wrongUsage(session, unknownWord("command", name, namesOf(commands)));
-    if (const auto fault = faultOf(*command, words))
+    if (const auto fault = faultOf(command, session.arguments()))
+        return wrongUsage(session, *fault);
+    if (const auto fault = faultOf(command, words))
         return wrongUsage(session, *fault);
     mentionLeftRun(session);
-    if (command->reach == Reach::Changes && !session.arguments().dryRun)
-        return runLocked(session, *command, words);
-    return command->run(session, words);
+    if (command.reach == Reach::Changes && !session.arguments().dryRun)
+        return runLocked(session, command, words);
+    return command.run(session, words);
+}
+
+ExitStatus runWords(Session& session, const std::vector<std::string>& words) {
+    const auto commands = commandTable(session.catalogue());
+    const Command* command = commandOf(commands, words.front());
+    if (command == nullptr)
+        return wrongUsage(session, unknownWord("command", words.front(), commandNames(commands)));
+    if (session.arguments().help)
+        return showHelp(session, {command->name});
+    return runCommand(session, *command, {words.begin() + 1, words.end()});
 }
 
 ExitStatus run(Session& session) {
     const Arguments& arguments = session.arguments();
     if (arguments.fault)
         return wrongUsage(session, *arguments.fault);
-    if (arguments.help) {
-        const std::string help = helpText(session.catalogue());
-        session.output().result(help, {{"help", help}});
-        return AllDone;
-    }
     if (arguments.version) {
         session.output().result("tarnwick " TARNWICK_VERSION, {{"version", TARNWICK_VERSION}});
         return AllDone;
     }
-    if (arguments.words.empty())
-        return wrongUsage(session, "say what to do");
-    return runCommand(session, arguments.words.front(),
-                      {arguments.words.begin() + 1, arguments.words.end()});
+    if (!arguments.words.empty())
+        return runWords(session, arguments.words);
+    return arguments.help ? showHelp(session, {}) : wrongUsage(session, "say what to do");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "cli/Words.h"
 
@@ -10,52 +11,25 @@ namespace tarnwick {
 
 namespace {
 
-using Rows = std::vector<std::pair<std::string, std::string>>;
-
 constexpr std::size_t anyNumber = static_cast<std::size_t>(-1);
 
-// Two columns under a heading, the second one aligned.
-std::string table(const std::string& heading, const Rows& rows) {
-    std::size_t width = 0;
-    for (const auto& [left, right] : rows)
-        width = std::max(width, left.size());
-    std::string text = "\n\n" + heading + ":";
-    for (const auto& [left, right] : rows) {
-        text += "\n  " + left;
-        if (!right.empty())
-            text += std::string(width - left.size() + 2, ' ') + right;
-    }
-    return text;
+const std::vector<std::string> rehearsed = {"--dry-run", "--verbose"};
+const std::vector<std::string> confirmed = {"--yes", "--dry-run", "--verbose"};
+
+bool contains(const std::vector<std::string>& words, const std::string& word) {
+    return std::find(words.begin(), words.end(), word) != words.end();
 }
 
-Rows commandRows(const ItemCatalogue& catalogue) {
-    Rows rows;
-    for (const Command& command : commandTable(catalogue))
-        rows.emplace_back(command.name + (command.synopsis.empty() ? "" : " " + command.synopsis),
-                          command.purpose);
-    return rows;
-}
-
-Rows optionRows() {
-    Rows rows;
-    for (const Option& option : optionTable())
-        rows.emplace_back((option.shortWord.empty() ? "" : option.shortWord + ", ") + option.word +
-                              (option.values.empty() ? "" : " " + option.values),
-                          option.purpose);
-    return rows;
-}
-
-Rows itemRows(const ItemCatalogue& catalogue) {
-    Rows rows;
-    for (const std::string& word : itemWords(catalogue))
-        rows.emplace_back(word, "");
-    return rows;
+std::vector<std::string> sizeWords(const ItemCatalogue& catalogue) {
+    std::vector<std::string> words = itemWords(catalogue);
+    words.insert(words.begin(), everyItem);
+    return words;
 }
 
 }  // namespace
 
 const std::vector<std::pair<std::string, std::string>>& exitStatusTable() {
-    static const Rows statuses = {
+    static const std::vector<std::pair<std::string, std::string>> statuses = {
         {"0", "all done"},
         {"1", "not all done: something failed, is missing or damaged, or the answer was no"},
         {"2", "wrong usage"},
@@ -66,10 +40,26 @@ const std::vector<std::pair<std::string, std::string>>& exitStatusTable() {
     return statuses;
 }
 
+const Command* commandOf(const std::vector<Command>& commands, const std::string& name) {
+    const auto found = std::ranges::find(commands, name, &Command::name);
+    return found == commands.end() ? nullptr : &*found;
+}
+
+std::vector<std::string> commandNames(const std::vector<Command>& commands) {
+    std::vector<std::string> names;
+    for (const Command& command : commands)
+        names.push_back(command.name);
+    return names;
+}
+
+bool knowsOption(const Command& command, const Option& option) {
+    return option.isForEveryVerb || contains(command.options, option.word);
+}
+
 std::vector<Command> commandTable(const ItemCatalogue& catalogue) {
     const auto targets = targetWords(catalogue);
     const auto items = itemWords(catalogue);
-    return {
+    std::vector<Command> commands = {
         {.name = "save",
          .synopsis = "sources | packages | all | ITEM...",
          .purpose = "save into the safeguard folder",
@@ -77,6 +67,7 @@ std::vector<Command> commandTable(const ItemCatalogue& catalogue) {
          .words = targets,
          .fewestWords = 1,
          .mostWords = anyNumber,
+         .options = confirmed,
          .run = saveTargets},
         {.name = "restore",
          .synopsis = "sources | packages | all | ITEM...",
@@ -85,23 +76,26 @@ std::vector<Command> commandTable(const ItemCatalogue& catalogue) {
          .words = targets,
          .fewestWords = 1,
          .mostWords = anyNumber,
+         .options = {"--yes", "--then", "--dry-run", "--verbose"},
          .run = restoreTargets},
         {.name = "list",
-         .purpose = "list the safeguard folder, with sizes and dates",
+         .purpose = "list the safeguard folder, with sizes and dates, and what is not saved",
          .run = listSafeguard},
         {.name = "check",
          .synopsis = "[ITEM...]",
          .purpose = "test the archives",
          .words = items,
          .mostWords = anyNumber,
+         .options = rehearsed,
          .run = checkArchives},
         {.name = "size",
-         .synopsis = "ITEM",
-         .purpose = "print the backup size of one item",
+         .synopsis = "all | ITEM...",
+         .purpose = "print the backup sizes of items",
          .reach = Reach::Changes,
-         .words = items,
+         .words = sizeWords(catalogue),
          .fewestWords = 1,
-         .mostWords = 1,
+         .mostWords = anyNumber,
+         .options = rehearsed,
          .run = showSize},
         {.name = "storage", .purpose = "print total and free space", .run = showStorage},
         {.name = "folders",
@@ -110,6 +104,7 @@ std::vector<Command> commandTable(const ItemCatalogue& catalogue) {
          .reach = Reach::Changes,
          .words = folderWords(),
          .mostWords = 1,
+         .options = {"--dry-run"},
          .run = recreateFolders},
         {.name = "remove",
          .synopsis = "backups | sources-list",
@@ -118,29 +113,32 @@ std::vector<Command> commandTable(const ItemCatalogue& catalogue) {
          .words = {"backups", "sources-list"},
          .fewestWords = 1,
          .mostWords = 1,
+         .options = {"--yes", "--dry-run"},
          .run = removeSaved},
         {.name = "respring",
          .purpose = "restart the home screen",
          .reach = Reach::Changes,
+         .options = confirmed,
          .run = respringDevice},
         {.name = "reboot",
          .purpose = "restart the device",
          .reach = Reach::Changes,
+         .options = confirmed,
          .run = rebootDevice},
         {.name = "mail",
          .synopsis = "[--to ADDRESS]...",
          .purpose = "mail the saved package list",
+         .options = {"--to", "--dry-run"},
          .run = mailPackageList},
         {.name = "faq", .purpose = "print the help texts", .run = showHelpTexts},
+        {.name = "help",
+         .synopsis = "[COMMAND]",
+         .purpose = "print this help, or that of the command",
+         .mostWords = 1,
+         .run = showHelp},
     };
-}
-
-std::string helpText(const ItemCatalogue& catalogue) {
-    return "Usage: tarnwick COMMAND [WORD...] [OPTION...]\n\n"
-           "Saves what a wipe of the device would lose, and puts it back." +
-           table("Commands", commandRows(catalogue)) +
-           table("ITEM is one of", itemRows(catalogue)) + table("Options", optionRows()) +
-           table("Exit status", exitStatusTable());
+    commands.back().words = commandNames(commands);
+    return commands;
 }
 
 }  // namespace tarnwick

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "cli/Arguments.h"
 #include "cli/ExitStatus.h"
 #include "cli/Session.h"
 
@@ -24,6 +25,7 @@ struct Command {
     std::vector<std::string> words = {};  // what may follow the name
     std::size_t fewestWords = 0;
     std::size_t mostWords = 0;
+    std::vector<std::string> options = {};  // those that it knows besides those of every verb
     ExitStatus (*run)(Session& session, const std::vector<std::string>& words);
 };
 
@@ -32,7 +34,11 @@ std::vector<Command> commandTable(const ItemCatalogue& catalogue);
 // Each exit status and what it means.
 const std::vector<std::pair<std::string, std::string>>& exitStatusTable();
 
-// The whole help, from the table.
-std::string helpText(const ItemCatalogue& catalogue);
+// Null if there is no such verb. Points into the table.
+const Command* commandOf(const std::vector<Command>& commands, const std::string& name);
+
+std::vector<std::string> commandNames(const std::vector<Command>& commands);
+
+bool knowsOption(const Command& command, const Option& option);
 
 }  // namespace tarnwick

@@ -28,4 +28,6 @@ ExitStatus rebootDevice(Session& session, const std::vector<std::string>& words)
 
 ExitStatus mailPackageList(Session& session, const std::vector<std::string>& words);
 
+ExitStatus showHelp(Session& session, const std::vector<std::string>& words);
+
 }  // namespace tarnwick

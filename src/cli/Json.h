@@ -8,7 +8,7 @@
 
 namespace tarnwick {
 
-using JsonValue = std::variant<std::string, std::int64_t>;
+using JsonValue = std::variant<std::string, std::int64_t, std::vector<std::string>>;
 using JsonFields = std::vector<std::pair<std::string, JsonValue>>;
 
 // One object on one line. Invalid UTF-8 becomes U+FFFD.

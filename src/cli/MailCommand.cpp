@@ -34,12 +34,12 @@ void send(Session& session, const MailMessage& mail) {
     const auto fault =
         handToMailer(mimeForm(mail, std::time(nullptr)), session.world().mailerProgram);
     if (fault) {
-        session.output().problem("Mail sent failure: " + *fault, {{"failure", *fault}});
+        session.output().problem("Mail sent failure: " + *fault, {{"problem", *fault}});
         session.feedback().noteProblem();
         return;
     }
     const std::string recipients = joined(mail.recipients, ", ");
-    session.output().result("Mail sent: " + recipients, {{"sent", recipients}});
+    session.output().result("Mail sent: " + recipients, {{"sent", mail.recipients}});
 }
 
 }  // namespace

@@ -32,18 +32,21 @@ std::size_t changesBetween(std::string_view typed, std::string_view word) {
 
 }  // namespace
 
-const std::string& nearestWord(std::string_view typed, const std::vector<std::string>& words) {
-    const auto begun = std::find_if(words.begin(), words.end(), [typed](const std::string& word) {
-        return !typed.empty() && word.starts_with(typed);
-    });
-    if (begun != words.end())
-        return *begun;
-    // Long enough for every word there is; more would only make the comparison slow.
-    const std::string_view compared = typed.substr(0, 100);
-    return *std::min_element(
-        words.begin(), words.end(), [compared](const std::string& left, const std::string& right) {
-            return changesBetween(compared, left) < changesBetween(compared, right);
-        });
+const std::string* nearestWord(std::string_view typed, const std::vector<std::string>& words) {
+    constexpr std::size_t mostChanges = 2;
+    const std::string* nearest = nullptr;
+    std::size_t fewest = mostChanges + 1;
+    for (const std::string& word : words) {
+        // One that is much longer is not near, and would only make the comparison slow.
+        if (typed.size() > word.size() + mostChanges)
+            continue;
+        const std::size_t changes = changesBetween(typed, word);
+        if (changes >= fewest || 2 * changes >= word.size())
+            continue;
+        nearest = &word;
+        fewest = changes;
+    }
+    return nearest;
 }
 
 }  // namespace tarnwick

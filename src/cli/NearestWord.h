@@ -6,8 +6,9 @@
 
 namespace tarnwick {
 
-// The first word that begins as typed; else the first with the smallest edit distance (insertion,
-// deletion, substitution, transposition). There must be at least one word.
-const std::string& nearestWord(std::string_view typed, const std::vector<std::string>& words);
+// The first of the words that are nearest to what was typed, as far as that is near: at most two
+// edits away (insertion, deletion, substitution, transposition), and fewer than half its letters.
+// Null if there is none.
+const std::string* nearestWord(std::string_view typed, const std::vector<std::string>& words);
 
 }  // namespace tarnwick

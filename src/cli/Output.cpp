@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <string_view>
 
+#include "cli/QuotedName.h"
 #include "core/TextLines.h"
 #include "core/WriteAll.h"
 
@@ -17,21 +18,14 @@ bool deliver(int descriptor, std::string_view text) {
     return writeAll(descriptor, text) || errno == EPIPE || errno == EIO;
 }
 
-bool isControl(std::string_view character) {
-    if (character.size() == 1)
-        return (character[0] >= 0 && character[0] < ' ' && character[0] != '\n') ||
-               character[0] == 0x7F;
-    return character.size() == 2 && character[0] == '\xC2' &&
-           static_cast<unsigned char>(character[1]) < 0xA0;
-}
-
-// File names may contain control characters, which a terminal must not see.
+// What commands say may contain control characters, which a terminal must not see.
 std::string printable(std::string_view text) {
     std::string shown;
     for (std::size_t position = 0; position < text.size();) {
         const std::size_t length = std::max<std::size_t>(characterLength(text, position), 1);
         const std::string_view character = text.substr(position, length);
-        const bool shows = characterLength(text, position) > 0 && !isControl(character);
+        const bool shows =
+            character == "\n" || (characterLength(text, position) > 0 && !isControl(character));
         shown += shows ? character : "?";
         position += length;
     }
@@ -60,21 +54,28 @@ void Output::result(const std::string& text, const JsonFields& fields) {
 }
 
 void Output::problem(const std::string& text, const JsonFields& fields) {
-    const std::string shown = colour_ == Colour::Coloured ? red(printable(text)) : printable(text);
-    write(streams_.problems, (format_ == Format::Json ? jsonObject(fields) : shown) + "\n");
+    const std::string shown = printable(text);
+    writeProblem(colour_ == Colour::Coloured ? red(shown) : shown, fields);
 }
 
-void Output::alert(const Alert& alert) {
+void Output::alert(const Alert& alert, const JsonFields& facts) {
     const std::string text = alert.title + ": " + alert.message;
-    const JsonFields fields = {{"title", alert.title}, {"message", alert.message}};
+    JsonFields fields = {{"title", alert.title}, {"message", alert.message}};
+    fields.insert(fields.end(), facts.begin(), facts.end());
     if (alert.kind == AlertKind::Problem)
         problem(text, fields);
     else
         result(text, fields);
 }
 
-void Output::complaint(const std::string& text) {
-    write(streams_.problems, "tarnwick: " + printable(text) + "\n");
+void Output::complaint(const std::string& text, const JsonFields& facts) {
+    JsonFields fields = {{"problem", text}};
+    fields.insert(fields.end(), facts.begin(), facts.end());
+    writeProblem("tarnwick: " + printable(text), fields);
+}
+
+void Output::writeProblem(const std::string& text, const JsonFields& fields) {
+    write(streams_.problems, (format_ == Format::Json ? jsonObject(fields) : text) + "\n");
 }
 
 void Output::prompt(const std::string& text) {

@@ -24,14 +24,16 @@ public:
     // Everything is written to this descriptor as well, until it is set to -1.
     void copyTo(int descriptor) { copy_ = descriptor; }
     void problem(const std::string& text, const JsonFields& fields);
-    // "TITLE: MESSAGE", as a result or a problem depending on the alert's kind.
-    void alert(const Alert& alert);
-    // A message of the program itself, always as text, to the stream of the problems.
-    void complaint(const std::string& text);
-    // Text without a line feed, to the stream of the problems.
+    // "TITLE: MESSAGE", as a result or a problem depending on the alert's kind. An object has the
+    // facts too.
+    void alert(const Alert& alert, const JsonFields& facts);
+    // A message of the program itself, to the stream of the problems.
+    void complaint(const std::string& text, const JsonFields& facts = {});
+    // Text without a line feed, for a person, to the stream of the problems.
     void prompt(const std::string& text);
 
 private:
+    void writeProblem(const std::string& text, const JsonFields& fields);
     void write(int descriptor, const std::string& text);
 
     Streams streams_;

@@ -2,7 +2,10 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+
+#include "core/Characters.h"
 
 namespace tarnwick {
 
@@ -35,8 +38,9 @@ bool Questions::confirm(const Alert& alert) {
 }
 
 bool Questions::confirm(const std::string& button) {
-    const std::string answer = ask(button + " ? [y/N] ");
-    return answer == "y" || answer == "Y" || answer == "yes" || answer == "Yes";
+    std::string answer = ask(button + " ? [y/N] ");
+    std::ranges::transform(answer, answer.begin(), lowerCase);
+    return answer == "y" || answer == "yes";
 }
 
 std::string Questions::ask(const std::string& question) {

@@ -12,8 +12,8 @@ public:
     Questions(const Streams& streams, Output& output);
 
     bool canAsk() const;
-    // Shows the question and reads a line: "y" or "yes" presses the first other button. Anything
-    // else, end of file included, is a no.
+    // Shows the question and reads a line: "y" or "yes", in capitals too, presses the first other
+    // button. Anything else, end of file included, is a no.
     bool confirm(const Alert& alert);
     bool confirm(const std::string& button);
     // Reads a line; empty at end of file.

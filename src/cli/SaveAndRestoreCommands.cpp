@@ -3,6 +3,8 @@
 #include <iterator>
 
 #include "cli/Commands.h"
+#include "cli/SavedThings.h"
+#include "cli/Summary.h"
 #include "cli/Words.h"
 #include "core/JoinedText.h"
 #include "core/SafeguardPaths.h"
@@ -34,7 +36,10 @@ std::optional<ExitStatus> addRestoreSteps(Session& session, const std::vector<st
     for (const std::string& word : words) {
         const auto& action = actions.at(actionName("restore", word, session.catalogue()));
         if (word != everyItem) {
-            steps.push_back(action);
+            steps.push_back([&session, word, action] {
+                session.feedback().begin(word);
+                action();
+            });
             continue;
         }
         action();
@@ -75,18 +80,32 @@ Alert lossQuestion(const SourceLists& lists) {
 }
 
 // What the operations do not report: that there is nothing to put back.
-std::vector<std::string> missingBackups(bool hasSources, const Plan& plan,
-                                        const std::vector<std::string>& words) {
-    std::vector<std::string> missing;
-    if (has(words, "sources") && !hasSources)
-        missing.emplace_back("there is no saved list of sources to put back");
+void reportMissingBackups(Session& session, bool hasSources, const Plan& plan,
+                          const std::vector<std::string>& words) {
+    if (has(words, sourcesWord) && !hasSources) {
+        session.feedback().begin(sourcesWord);
+        session.reportBeforehand("there is no saved list of sources to put back");
+    }
+    session.feedback().begin({});
     if (has(words, everyItem) && plan.empty())
-        missing.emplace_back("there is no archive to restore");
-    return missing;
+        session.reportBeforehand("there is no archive to restore");
+}
+
+// In a rehearsal the operations do not tell; and a run over all items passes over what is missing.
+void rehearseMissingBackups(Session& session, const std::vector<std::string>& words) {
+    for (const SavedThing& thing : savedThings(session.files(), session.catalogue(), words)) {
+        if (thing.word == sourcesWord || session.files().exists(thing.copies.front()))
+            continue;
+        session.feedback().begin(thing.word);
+        session.output().complaint("there is no backup of " + thing.word, {{"item", thing.word}});
+        if (has(words, thing.word))
+            session.feedback().noteProblem();
+    }
 }
 
 void reportMissingPackages(Session& session) {
     constexpr std::size_t mostNames = 10;
+    session.feedback().begin(packagesWord);
     auto missing = missingPackages(session.files());
     if (missing.empty())
         return;
@@ -125,8 +144,11 @@ ExitStatus saveTargets(Session& session, const std::vector<std::string>& words) 
     const NamedActions actions = session.backup().actions();
     const auto work = [&] {
         session.backup().ensureSafeguardFolders();
-        for (const std::string& word : words)
+        for (const std::string& word : words) {
+            session.feedback().begin(word);
             actions.at(actionName("save", word, session.catalogue()))();
+        }
+        tellWhatWasSaved(session, words);
     };
     return session.perform({.work = work, .what = "save " + joined(words, " ")});
 }
@@ -138,21 +160,22 @@ ExitStatus restoreTargets(Session& session, const std::vector<std::string>& word
     session.feedback().setPlan(plan);
     Steps steps;
     const SourceLists lists = sourceListsOf(session.files());
-    const bool hasSources = has(words, "sources") && session.files().readText(lists.saved);
-    if (has(words, "sources") && !hasSources && session.files().exists(lists.replaced))
+    const bool hasSources = has(words, sourcesWord) && session.files().readText(lists.saved);
+    if (has(words, sourcesWord) && !hasSources && session.files().exists(lists.replaced))
         if (const auto refused = session.refusal(lossQuestion(lists)))
             return *refused;
     if (const auto refused = addRestoreSteps(session, words, steps))
         return *refused;
-    const auto missing = missingBackups(hasSources, plan, words);
-    const bool installsPackages = has(words, "packages");
+    const bool installsPackages = has(words, packagesWord);
     const auto work = [&] {
         for (const auto& step : steps)
             step();
-        for (const std::string& backup : missing)
-            session.report(backup);
         if (installsPackages)
             reportMissingPackages(session);
+        reportMissingBackups(session, hasSources, plan, words);
+        if (session.arguments().dryRun)
+            rehearseMissingBackups(session, words);
+        tellWhatWasRestored(session, words);
     };
     const auto afterwards = [&session](const RunReport& report) {
         if (report.offer != Offer::None)

@@ -38,6 +38,7 @@ Session::Session(const World& world, const Arguments& arguments)
       feedback_(
           output_, line_,
           arguments.dryRun ? TerminalFeedback::Mode::Silent : TerminalFeedback::Mode::Talking),
+      watch_(world.guard.runner(), world.guard.files(), feedback_),
       rehearsalRunner_(output_),
       rehearsalChanges_(output_) {
     const OperationServices services = {.catalogue = catalogue_,
@@ -53,7 +54,9 @@ Session::Session(const World& world, const Arguments& arguments)
 }
 
 CommandRunner& Session::runner() {
-    return arguments_.dryRun ? rehearsalRunner_ : world_.guard.runner();
+    if (arguments_.dryRun)
+        return rehearsalRunner_;
+    return watch_;
 }
 
 CommandRunner& Session::archiveTester() {
@@ -67,17 +70,24 @@ FileWriter& Session::changes() {
 }
 
 void Session::report(const std::string& fault) {
-    if (arguments_.dryRun)
-        return;
-    line_.without([&] { output_.complaint(fault); });
-    feedback_.noteProblem();
+    if (!arguments_.dryRun)
+        reportBeforehand(fault);
+}
+
+void Session::reportBeforehand(const std::string& fault) {
+    JsonFields facts;
+    if (!feedback_.current().empty())
+        facts.emplace_back("item", feedback_.current());
+    line_.without([&] { output_.complaint(fault, facts); });
+    feedback_.noteFault(fault);
 }
 
 std::optional<ExitStatus> Session::refusal(const Alert& question) {
     if (arguments_.yes || arguments_.dryRun)
         return std::nullopt;
     if (!questions_.canAsk()) {
-        output_.complaint("this needs a confirmation; without a terminal, use --yes");
+        output_.complaint("this needs a confirmation; without a terminal, use --yes",
+                          {{"question", question.message}});
         return WrongUsage;
     }
     if (questions_.confirm(question))
@@ -144,7 +154,8 @@ std::optional<ExitStatus> Session::failureOf(const Undertaking& task, Supervised
         return std::nullopt;
     const bool interrupted = end == SupervisedRun::End::Interrupted;
     output_.complaint((interrupted ? "interrupted" : "the run ended unexpectedly") +
-                      (task.what.empty() ? "" : "; to be run again: tarnwick " + task.what));
+                          (task.what.empty() ? "" : "; to be run again: tarnwick " + task.what),
+                      task.what.empty() ? JsonFields() : JsonFields{{"again", task.what}});
     return interrupted ? Interrupted : NotAllDone;
 }
 

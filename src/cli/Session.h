@@ -13,6 +13,7 @@
 #include "cli/ProgressLine.h"
 #include "cli/Questions.h"
 #include "cli/Rehearsal.h"
+#include "cli/RestoreWatch.h"
 #include "cli/Streams.h"
 #include "cli/Supervisor.h"
 #include "cli/TerminalFeedback.h"
@@ -83,6 +84,8 @@ public:
     // Complains of what is missing or has failed; the run is not all done then. A rehearsal, in
     // which nothing fails, has no such report.
     void report(const std::string& fault);
+    // The same, also in a rehearsal: of what is known beforehand.
+    void reportBeforehand(const std::string& fault);
 
     // Null if the question counts as answered with yes; otherwise the status to end with.
     std::optional<ExitStatus> refusal(const Alert& question);
@@ -105,6 +108,7 @@ private:
     Questions questions_;
     ProgressLine line_;
     TerminalFeedback feedback_;
+    RestoreWatch watch_;
     RehearsalRunner rehearsalRunner_;
     RehearsalFileWriter rehearsalChanges_;
     InPlaceQueues queues_;

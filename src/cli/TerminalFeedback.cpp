@@ -13,6 +13,10 @@ namespace {
 constexpr int problemBit = 1;
 constexpr int offerShift = 1;
 
+std::string wordOf(Offer offer) {
+    return offer == Offer::Reboot ? "reboot" : "respring";
+}
+
 Offer offerOf(const Alert& alert) {
     if (alert.otherButtonTitles.empty())
         return Offer::None;
@@ -54,16 +58,37 @@ void TerminalFeedback::show(const Alert& alert) {
         question_ = alert;
         return;
     }
-    report_.offer = std::max(report_.offer, offerOf(alert));
+    const Offer offer = offerOf(alert);
+    report_.offer = std::max(report_.offer, offer);
     if (mode_ == Mode::Silent)
         return;
-    line_.without([&] { output_.alert(alert); });
+    JsonFields facts = facts_ ? facts_() : JsonFields();
+    if (offer != Offer::None)
+        facts.emplace_back("offer", wordOf(offer));
+    line_.without([&] { output_.alert(alert, facts); });
     report_.hasProblem = report_.hasProblem || alert.kind == AlertKind::Problem;
 }
 
 void TerminalFeedback::working(const BackupItem& item) {
+    begin(kebabCase(item.key));
     place_ = std::min(place_ + 1, plan_.size());
-    line_.setItem(kebabCase(item.key), place_, plan_.size());
+    line_.setItem(current_, place_, plan_.size());
+}
+
+void TerminalFeedback::begin(const std::string& word) {
+    current_ = word;
+}
+
+Outcome TerminalFeedback::outcomeOf(const std::string& word) const {
+    const auto found = outcomes_.find(word);
+    return found == outcomes_.end() ? Outcome() : found->second;
+}
+
+void TerminalFeedback::noteFault(const std::string& fault) {
+    noteProblem();
+    std::string& first = outcomes_[current_].fault;
+    if (first.empty())
+        first = fault;
 }
 
 std::optional<Alert> TerminalFeedback::takeQuestion() {

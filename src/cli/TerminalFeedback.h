@@ -1,6 +1,10 @@
 #pragma once
 
+#include <functional>
+#include <map>
 #include <optional>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "cli/Output.h"
@@ -20,6 +24,12 @@ public:
     Offer offer = Offer::None;
 };
 
+// What became of one thing that a run works on.
+struct Outcome {
+    std::string fault = {};     // the first; empty if nothing failed
+    std::string notFound = {};  // what its archive does not have; empty if nothing
+};
+
 // Shows a task on a terminal: the HUD is a line that shows the running item, an alert is a line of
 // output. A question is kept, for the caller to ask.
 class TerminalFeedback : public Feedback {
@@ -37,9 +47,19 @@ public:
     void show(const Alert& alert) override;
     void working(const BackupItem& item) override;
 
+    // What follows concerns the thing of this word; none if it is empty.
+    void begin(const std::string& word);
+    // Empty if nothing was noted.
+    Outcome outcomeOf(const std::string& word) const;
+    // The word of the last thing begun.
+    const std::string& current() const { return current_; }
     // A problem without an alert.
     void noteProblem() { report_.hasProblem = true; }
+    void noteFault(const std::string& fault);
+    void noteNotFound(const std::string& path) { outcomes_[current_].notFound = path; }
     const RunReport& report() const { return report_; }
+    // What objects are to say about the alerts that follow.
+    void setFacts(std::function<JsonFields()> facts) { facts_ = std::move(facts); }
     // The question shown since the last call; null if there was none.
     std::optional<Alert> takeQuestion();
 
@@ -50,6 +70,9 @@ private:
     std::vector<const BackupItem*> plan_;
     std::size_t place_ = 0;
     RunReport report_;
+    std::string current_;
+    std::map<std::string, Outcome> outcomes_;
+    std::function<JsonFields()> facts_;
     std::optional<Alert> question_;
 };
 

@@ -15,7 +15,7 @@ struct Target {
 
 std::vector<Target> targetsOf(const ItemCatalogue& catalogue) {
     std::vector<Target> targets = {
-        {"sources", "Sources"}, {"packages", "Packages"}, {everyItem, "AllInOne"}};
+        {sourcesWord, "Sources"}, {packagesWord, "Packages"}, {everyItem, "AllInOne"}};
     for (const BackupItem& item : catalogue)
         targets.push_back({kebabCase(item.key), item.key});
     return targets;

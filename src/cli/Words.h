@@ -23,6 +23,8 @@ std::vector<std::string> targetWords(const ItemCatalogue& catalogue);
 std::string actionName(const std::string& verb, const std::string& target,
                        const ItemCatalogue& catalogue);
 
+inline constexpr const char* sourcesWord = "sources";
+inline constexpr const char* packagesWord = "packages";
 inline constexpr const char* everyItem = "all";
 
 }  // namespace tarnwick

@@ -1,7 +1,14 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <filesystem>
+#include <nlohmann/json.hpp>
+#include <set>
+#include <sstream>
+
 #include "cli/CommandLine.h"
 #include "cli/CommandTable.h"
+#include "cli/JsonFields.h"
 #include "core/JoinedText.h"
 #include "guard/RunLock.h"
 #include "support/CommandLineRun.h"
@@ -20,9 +27,19 @@ TEST(CommandLine, WrongUsageNamesTheNearestWordAndDoesNothing) {
         {"sav all", "there is no command \"sav\"; did you mean \"save\" ?"},
         {"save notes fhotos", "there is no word for save \"fhotos\"; did you mean \"photos\" ?"},
         {"remove", "remove needs one of: backups, sources-list"},
-        {"size notes photos", "size takes one word only"},
+        {"folders Tarnwick CydiaSources", "folders takes one word only"},
         {"reboot now", "reboot takes no more words"},
-        {"save all --dry", "there is no option \"--dry\"; did you mean \"--dry-run\" ?"},
+        {"save all --dry-rum", "there is no option \"--dry-rum\"; did you mean \"--dry-run\" ?"},
+        {"frobnicate", "there is no command \"frobnicate\""},
+        {"chk", "there is no command \"chk\"; did you mean \"check\" ?"},
+        {"save xyz", "there is no word for save \"xyz\""},
+        {"restore notes --then", "--then needs a value: respring|reboot|nothing"},
+        {"restore notes --then --yes", "--then needs a value: respring|reboot|nothing"},
+        {"mail --to=", "--to needs a value: ADDRESS"},
+        {"reboot --yes=no", "--yes takes no value"},
+        {"save notes --then reboot", "save does not know --then"},
+        {"list --dry-run", "list does not know --dry-run"},
+        {"help savee", "there is no word for help \"savee\"; did you mean \"save\" ?"},
     };
     for (const auto& [words, fault] : rows) {
         CommandLineRun tarnwick;
@@ -31,6 +48,30 @@ TEST(CommandLine, WrongUsageNamesTheNearestWordAndDoesNothing) {
                   "tarnwick: " + std::string(fault) + "\nTry \"tarnwick --help\".\n");
         EXPECT_TRUE(tarnwick.diary.entries.empty()) << words;
     }
+}
+
+TEST(CommandLine, HelpFitsAScreenAndNamesWhatTheCommandKnows) {
+    CommandLineRun tarnwick;
+    std::string all;
+    for (const Command& command : commandTable(ItemCatalogue())) {
+        EXPECT_EQ(tarnwick("help " + command.name), AllDone);
+        const std::string help = tarnwick.results();
+        for (const Option& option : optionTable())
+            EXPECT_EQ(help.find("  " + option.word) != std::string::npos ||
+                          help.find(", " + option.word) != std::string::npos,
+                      knowsOption(command, option))
+                << command.name << option.word;
+        EXPECT_EQ(tarnwick(command.name + " --help"), AllDone);
+        EXPECT_EQ(tarnwick.results(), help);
+        all += help;
+    }
+    EXPECT_EQ(tarnwick("help"), AllDone);
+    const std::string whole = tarnwick.results();
+    EXPECT_EQ(tarnwick("--help"), AllDone);
+    EXPECT_EQ(tarnwick.results(), whole);
+    std::istringstream lines(all + whole);
+    for (std::string line; std::getline(lines, line);)
+        EXPECT_LE(line.size(), 79U) << line;
 }
 
 TEST(CommandLine, WhatChangesTheDeviceNeedsRootAndNoOtherRun) {
@@ -72,6 +113,12 @@ TEST(CommandLine, SavesTheNamedTargetsInTheirOrder) {
     EXPECT_EQ(tarnwick.diary.changes().front(), "create folder: " + root);
 }
 
+bool knowsYes(const std::string& words) {
+    const auto commands = commandTable(ItemCatalogue());
+    const auto& options = commandOf(commands, words.substr(0, words.find(' ')))->options;
+    return std::ranges::count(options, "--yes") > 0;
+}
+
 TEST(CommandLine, ARehearsalPrintsWhatTheRunDoesAndDoesNothing) {
     for (const auto& [verb, events] : literalEvents()) {
         if (verb.find(',') != std::string::npos)
@@ -85,7 +132,7 @@ TEST(CommandLine, ARehearsalPrintsWhatTheRunDoesAndDoesNothing) {
         const Entries changes = changesIn(events);
         EXPECT_EQ(tarnwick.results(), joined(changes, "\n") + "\n") << verb;
         EXPECT_TRUE(tarnwick.diary.changes().empty()) << verb;
-        tarnwick(verb + " --yes --then nothing");
+        tarnwick(knowsYes(verb) ? verb + " --yes" : verb);
         EXPECT_EQ(tarnwick.diary.changes(), changes) << verb;
     }
 }
@@ -97,11 +144,24 @@ TEST(CommandLine, ARehearsalTellsCopiesAndWrites) {
     EXPECT_EQ(tarnwick.results(), "{\"copy\":\"/etc/apt/sources.list.d/cydia.list\",\"to\":\"" +
                                       root + "/CydiaSources/cydia.list\"}\n");
     tarnwick.folder.put(cache, "deb");
+    tarnwick.folder.put(root + "/CydiaSources/sources.list", "deb");
     EXPECT_EQ(tarnwick("restore sources accounts --dry-run --then reboot"), AllDone);
     EXPECT_TRUE(tarnwick.results().starts_with(
         "create file: /etc/apt/sources.list.d/TWKSources.list\n"
         "write: /etc/apt/sources.list.d/TWKSources.list\nrun: /usr/bin/unzip"));
     EXPECT_TRUE(tarnwick.results().ends_with("run: /sbin/reboot\n"));
+}
+
+TEST(CommandLine, ARehearsalNamesAMissingBackup) {
+    CommandLineRun tarnwick;
+    EXPECT_EQ(tarnwick("restore sources packages notes --dry-run"), NotAllDone);
+    EXPECT_EQ(tarnwick.problems(),
+              "tarnwick: there is no saved list of sources to put back\n"
+              "tarnwick: there is no backup of packages\ntarnwick: there is no backup of notes\n");
+    tarnwick.folder.put(library + "Notes.zip", "zip");
+    EXPECT_EQ(tarnwick("restore all --dry-run"), AllDone) << "it passes over what is missing";
+    EXPECT_NE(tarnwick.problems().find("there is no backup of photos\n"), std::string::npos);
+    EXPECT_EQ(tarnwick.problems().find("notes"), std::string::npos);
 }
 
 TEST(CommandLine, ConfirmationsAreRefusedWithoutATerminal) {
@@ -139,13 +199,15 @@ TEST(CommandLine, AtATerminalTheStrongestOfSeveralOffersIsAsked) {
         {"restore springboard accounts springboard", "run: /sbin/reboot"},
         {"restore springboard notes", "run: /usr/bin/killall backboardd"}};
     for (const auto& [words, accepted] : rows)
-        for (const std::string answer : {"y\n", "n\n", "\n"}) {
+        for (const std::string answer : {"y\n", "YES\n", "n\n", "\n"}) {
             CommandLineRun tarnwick;
             tarnwick.terminal = terminal.program;
             tarnwick.folder.putEveryArchive();
             terminal.type(answer);
             EXPECT_EQ(tarnwick(words), AllDone);
-            EXPECT_EQ(tarnwick.diary.entries.back() == accepted, answer == "y\n") << words;
+            EXPECT_EQ(tarnwick.diary.changes().back() == accepted,
+                      answer.size() > 1 && answer != "n\n")
+                << words;
         }
 }
 
@@ -217,6 +279,146 @@ TEST(CommandLine, WhatWasNotSavedOrPutBackIsTold) {
     EXPECT_EQ(other("folders"), NotAllDone);
 }
 
+// Each step makes what it should, but for what the test breaks.
+void saveWell(const CommandLineRun& tarnwick, const std::string& line) {
+    if (line.starts_with("dpkg"))
+        tarnwick.folder.put(savedPackages, "12345");
+    if (line.starts_with("zip -r "))
+        tarnwick.folder.put(line.substr(7, line.find(' ', 7) - 7), "12345");
+}
+
+TEST(CommandLine, ARunOverAllEndsWithALineForEachItem) {
+    CommandLineRun tarnwick;
+    for (const BackupItem& item : ItemCatalogue())
+        if (item.key != "Voicemails")
+            tarnwick.folder.put(item.sourcePaths.front() + "/data", "");
+    tarnwick.folder.put(library + "Safari.zip", "of yesterday");
+    tarnwick.runner.act = [&](const std::string& line) {
+        const bool fails = line.find("AddressBook") != std::string::npos ||
+                           line.starts_with("cp -R /var/mobile/Library/Safari");
+        tarnwick.runner.status = fails ? 1 << 8 : 0;
+        if (!fails && line.find("Notes.zip") == std::string::npos)
+            saveWell(tarnwick, line);
+    };
+    EXPECT_EQ(tarnwick("save packages all"), NotAllDone);
+    EXPECT_EQ(tarnwick.results(),
+              "Cydia Packages Backup: Backup done !\nAll in One Backup: Backup done !\n"
+              "packages: saved (5.00 B)\ntweaks-prefs: saved (5.00 B)\naccounts: saved (5.00 B)\n"
+              "calendar: saved (5.00 B)\ncall-history: saved (5.00 B)\nmessages: saved (5.00 B)\n"
+              "photos: saved (10.00 B)\nspringboard: saved (5.00 B)\n"
+              "voicemails: nothing to save\n");
+    EXPECT_TRUE(tarnwick.problems().ends_with(
+        "contacts: failed (cp -R /var/mobile/Library/AddressBook " + library +
+        ": ended with status 1)\nnotes: failed (there is no Notes.zip)\n"
+        "safari: failed (cp -R /var/mobile/Library/Safari " +
+        library + ": ended with status 1)\n"))
+        << tarnwick.problems();
+}
+
+TEST(CommandLine, ARestoreOfAllEndsWithALineForEachItem) {
+    CommandLineRun tarnwick;
+    for (const char* archive : {"Notes.zip", "SMS.zip", "CallHistory.zip"})
+        tarnwick.folder.put(library + archive, "zip");
+    tarnwick.runner.act = [&](const std::string& line) {
+        tarnwick.runner.status = line.find("SMS.zip") != std::string::npos ? 9 << 8 : 0;
+        if (line.find("Notes.zip") != std::string::npos)
+            tarnwick.folder.put("/var/tmp" + library + "Notes/data", "");
+    };
+    EXPECT_EQ(tarnwick("restore all --yes"), NotAllDone);
+    EXPECT_TRUE(tarnwick.results().ends_with(
+        "now ?\ntweaks-prefs: no backup\naccounts: no backup\ncalendar: no backup\n"
+        "call-history: not restored (its archive does not have var/wireless/Library/CallHistory)\n"
+        "contacts: no backup\nnotes: restored\nphotos: no backup\nsafari: no backup\n"
+        "springboard: no backup\nvoicemails: no backup\n"))
+        << tarnwick.results();
+    EXPECT_TRUE(tarnwick.problems().ends_with("messages: failed (/usr/bin/unzip " + library +
+                                              "SMS.zip -d /var/tmp/: ended with status 9)\n"));
+}
+
+TEST(CommandLine, SizesAreAddedUp) {
+    CommandLineRun tarnwick;
+    tarnwick.folder.put(library + "Notes.zip", "zip");
+    tarnwick.runner.act = [&](const std::string& line) { saveWell(tarnwick, line); };
+    EXPECT_EQ(tarnwick("size notes photos notes"), AllDone);
+    EXPECT_EQ(tarnwick.results(),
+              "Backup Size: The \"Notes\" backup size is : 3.00 B\n"
+              "Backup Size: The \"Photos / Videos\" backup size is : 10.00 B\nTotal: 13.00 B\n");
+    EXPECT_EQ(tarnwick("size all"), AllDone);
+    EXPECT_TRUE(tarnwick.results().ends_with("Total: 58.00 B\n")) << tarnwick.results();
+}
+
+// The names of the fields of all objects in the lines.
+void addNames(const std::string& lines, std::set<std::string>& names) {
+    std::istringstream stream(lines);
+    for (std::string line; std::getline(stream, line);) {
+        const auto object = nlohmann::json::parse(line);
+        for (const auto& [name, value] : object.items())
+            names.insert(name);
+    }
+}
+
+TEST(CommandLine, EachFieldOfAnObjectIsOneThatIsDescribed) {
+    CommandLineRun tarnwick;
+    std::set<std::string> printed, described;
+    tarnwick.folder.putEveryArchive();
+    tarnwick.folder.put(savedPackages, "");
+    std::filesystem::create_symlink("nowhere", tarnwick.folder.path() + library + "link");
+    tarnwick.folder.put("sendmail", "#!/bin/sh\ncat >/dev/null\n");
+    std::filesystem::permissions(tarnwick.mailerProgram, std::filesystem::perms::owner_all);
+    tarnwick.runner.act = [&](const std::string& line) {
+        tarnwick.runner.status = line.starts_with("cp -R /var/mobile/Library/Notes") ? 1 << 8 : 0;
+    };
+    for (const char* words :
+         {"save sources packages notes accounts", "restore notes springboard", "restore all",
+          "list", "check", "size notes accounts", "storage", "folders", "remove backups", "faq",
+          "help", "--version", "frobnicate", "mail --to me@example.org", "save all --dry-run",
+          "save sources --dry-run", "restore sources --dry-run", "folders --dry-run"}) {
+        tarnwick(words + std::string(" --json"));
+        addNames(tarnwick.results() + tarnwick.problems(), printed);
+        tarnwick.folder.put(cache, "deb");
+    }
+    tarnwick.end = SupervisedRun::End::Interrupted;
+    tarnwick("save notes --json");
+    addNames(tarnwick.problems(), printed);
+    for (const auto& [name, meaning] : jsonFieldTable())
+        described.insert(name);
+    EXPECT_EQ(printed, described);
+}
+
+TEST(CommandLine, ObjectsHaveFacts) {
+    CommandLineRun tarnwick;
+    for (const char* archive : {"Notes.zip", "SpringBoard.zip"})
+        tarnwick.folder.put(library + archive, "zip");
+    tarnwick.runner.act = [&](const std::string& line) {
+        if (line.find("unzip") != std::string::npos)
+            tarnwick.folder.put("/var/tmp" + library + "SpringBoard/data", "");
+    };
+    EXPECT_EQ(tarnwick("restore springboard photos --json"), NotAllDone);
+    EXPECT_EQ(tarnwick.results(),
+              R"({"title":"SpringBoard Restoration","message":"Restoration done ! Do you want to )"
+              R"(respring now ?","offer":"respring"})"
+              "\n"
+              R"({"item":"springboard","outcome":"restored"})"
+              "\n"
+              R"({"item":"photos","outcome":"no backup"})"
+              "\n");
+    EXPECT_EQ(tarnwick("size notes --json"), AllDone);
+    EXPECT_NE(tarnwick.results().find(R"("item":"notes","bytes":3})"), std::string::npos);
+    EXPECT_EQ(tarnwick("storage --json"), AllDone);
+    EXPECT_EQ(tarnwick.results(), "{\"totalBytes\":68719476736,\"freeBytes\":13421772800}\n");
+    EXPECT_EQ(tarnwick("reboot --json"), WrongUsage);
+    EXPECT_EQ(tarnwick.problems(),
+              "{\"problem\":\"this needs a confirmation; without a terminal, use --yes\","
+              "\"question\":\"Do you really want to Reboot your device ?\"}\n");
+    EXPECT_EQ(tarnwick("list --json"), AllDone);
+    EXPECT_NE(
+        tarnwick.results().find(R"("file":"TarnwickLibrary/Notes.zip","bytes":3,"modified":")"),
+        std::string::npos);
+    EXPECT_NE(tarnwick.results().find(R"(Z","item":"notes"})"), std::string::npos);
+    EXPECT_NE(tarnwick.results().find(R"({"files":2,"totalBytes":6,"notSaved":["sources",)"),
+              std::string::npos);
+}
+
 TEST(CommandLine, CheckNamesEachArchive) {
     CommandLineRun tarnwick;
     EXPECT_EQ(tarnwick("check"), NotAllDone);
@@ -235,17 +437,27 @@ TEST(CommandLine, CheckNamesEachArchive) {
     EXPECT_EQ(tarnwick.problems(), "Notes.zip: cannot be tested\n");
 }
 
-TEST(CommandLine, ListShowsWhatIsThere) {
+TEST(CommandLine, ListShowsWhatIsThereAndWhatIsNot) {
     CommandLineRun tarnwick;
     EXPECT_EQ(tarnwick("list"), AllDone);
     EXPECT_EQ(tarnwick.results(), "The safeguard folder is empty.\n");
-    tarnwick.folder.put(library + "b\033[2J\u009B\x7F\xFF\u00E9.zip", "");
+    tarnwick.folder.putEveryArchive();
+    tarnwick.folder.put(root + "/CydiaSources/cydia.list", "deb");
+    tarnwick.folder.put(library + "b\n\033[2J\u009B\x7F\xFF\u00E9\".zip", "");
     tarnwick.folder.put(library + "a.zip", std::string(1024, 'x'));
+    for (const char* gone : {"SMS.zip", "PhotoData.zip"})
+        std::filesystem::remove(tarnwick.folder.path() + library + gone);
+    std::filesystem::create_symlink("nowhere", tarnwick.folder.path() + library + "SMS.zip");
     EXPECT_EQ(tarnwick("list"), AllDone);
-    EXPECT_NE(tarnwick.results().find("1.00 KB  TarnwickLibrary/a.zip\n"), std::string::npos);
-    EXPECT_TRUE(tarnwick.results().ends_with("0.00 B  TarnwickLibrary/b?[2J???\u00E9.zip\n"));
+    for (const char* line :
+         {"1.00 KB  TarnwickLibrary/a.zip\n",
+          "0.00 B  \"TarnwickLibrary/b\\n\\033[2J\\302\\233\\177\\377\u00E9\\\".zip\"\n",
+          "broken link  TarnwickLibrary/SMS.zip\n", "1.03 KB  in all\n"})
+        EXPECT_NE(tarnwick.results().find(line), std::string::npos) << line << tarnwick.results();
+    EXPECT_TRUE(tarnwick.results().ends_with("\nNot saved: packages, messages, photos\n"));
     // A file in a folder's place is there but cannot be read as one.
-    tarnwick.folder.put(root + "/CydiaSources", "");
+    std::filesystem::remove(tarnwick.folder.path() + root + "/CydiaPackages");
+    tarnwick.folder.put(root + "/CydiaPackages", "");
     EXPECT_EQ(tarnwick("list"), NotAllDone);
     tarnwick.isRoot = false;
     EXPECT_EQ(tarnwick("list"), NotRoot);

@@ -27,8 +27,9 @@ sources_before=$(on_phone cat /var/mobile/Library/Caches/com.saurik.Cydia/source
 packages_before=$(on_phone dpkg --get-selections)
 
 # In the C locale too, names must come back as they were.
-same "saving everything tells one success" "All in One Backup: Backup done !" \
-    "$(on_phone env LC_ALL=C tarnwick save all)"
+saved=$(on_phone env LC_ALL=C tarnwick save all)
+same "saving everything tells one success" "All in One Backup: Backup done !" "${saved%%$'\n'*}"
+same "and each item's size" 11 "$(grep -c ': saved ([0-9.]* [KM]*B)$' <<<"$saved")"
 same "with the zip of this build" 6.3 "$(on_phone zipinfo "$library/Notes.zip" | awk 'NR == 3 { print $2 }')"
 same "and leaves no staging copy" "" "$(not_archives)"
 on_phone tarnwick save sources packages >/dev/null
@@ -39,8 +40,11 @@ refuse "a wipe takes the data away" test "$(contents "$preferences" "${data_sets
 refuse "and the calls" test "$calls_as_new" = "$calls_before"
 same "every archive survived the wipe" "" "$(not_good)"
 
-same "the restore ends with its last item's title" "Voicemails Restoration: Restoration done ! Do you want to reboot now ?" \
-    "$(on_phone env LC_ALL=C tarnwick restore all --yes --then nothing)"
+restored=$(on_phone env LC_ALL=C tarnwick restore all --yes --then nothing)
+same "the restore has its last item's title" "Voicemails Restoration: Restoration done ! Do you want to reboot now ?" \
+    "${restored%%$'\n'*}"
+same "and tells of each item" "10 call-history: not restored (its archive does not have var/wireless/Library/CallHistory)" \
+    "$(grep -c ': restored$' <<<"$restored") $(grep 'not restored' <<<"$restored")"
 same "every data set is back bit for bit" "$before" "$(contents "$preferences" "${data_sets[@]}")"
 same "with its owner" "$owners_before" "$(owners "${data_sets[@]}")"
 same "preferences that the wipe had taken come back as root's" root \

@@ -48,8 +48,13 @@ changes_in() {
 
 # The trace is read in a run of its own, as a reboot ends the traced one.
 trace() {
+    local options=()
+    case $1 in
+        restore) options=(--yes --then nothing) ;;
+        remove | respring | reboot) options=(--yes) ;;
+    esac
     on_phone strace -f -qq -s 4096 -e trace=execve,unlink,rmdir,mkdir -o /var/root/trace \
-        tarnwick "$@" --yes --then nothing >/dev/null 2>&1
+        tarnwick "$@" "${options[@]}" >/dev/null 2>&1
     on_phone cat /var/root/trace >"$workspace/trace"
     changes_in "$workspace/trace"
 }

@@ -138,7 +138,7 @@ for list in '$cache|save sources' '$sources|restore sources' '$packages|restore 
     for kind in 'ln -s /dev/zero' 'ln -s /etc/shadow' mkfifo 'truncate -s 65M'; do
         path=${list%|*} verb=${list#*|} status=1
         [[ $verb != "save packages" ]] || status=0
-        fault "$kind $path: $verb" "rm $path; $kind $path" "$verb --then nothing" "$status" "" '! grep -r root: $safe $apt'
+        fault "$kind $path: $verb" "rm $path; $kind $path" "$verb" "$status" "" '! grep -r root: $safe $apt'
     done
 done
 for kind in 'ln -s /dev/zero' 'ln -s /etc/shadow' mkfifo 'truncate -s 65M'; do

@@ -30,7 +30,7 @@ TEST(MailCommand, SendsTheListToEachAddress) {
                              "bGFudGVybglpbnN0YWxsCg==", "Subject: My Cydia Packages Backup\n"})
         EXPECT_NE(tarnwick.mail().find(line), std::string::npos) << line;
     EXPECT_EQ(tarnwick("mail --to me@example.org --json"), AllDone);
-    EXPECT_EQ(tarnwick.results(), "{\"sent\":\"me@example.org\"}\n");
+    EXPECT_EQ(tarnwick.results(), "{\"sent\":[\"me@example.org\"]}\n");
 }
 
 TEST(MailCommand, SaysWhatFailed) {
@@ -64,7 +64,7 @@ TEST(MailCommand, AsksForTheAddressesAtATerminal) {
 TEST(MailCommand, SendsNothingWithoutGoodAddresses) {
     const std::pair<const char*, const char*> rows[] = {
         {"mail", "mail needs a recipient; without a terminal, use --to"},
-        {"mail --to", "\"\" is not a mail address"},
+        {"mail --to", "--to needs a value: ADDRESS"},
         {"mail --to=a@b.c --to bob --dry-run", "\"bob\" is not a mail address"}};
     for (const auto& [words, fault] : rows) {
         MailRun tarnwick;
