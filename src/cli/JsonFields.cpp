@@ -23,6 +23,7 @@ const std::vector<std::pair<std::string, std::string>>& jsonFieldTable() {
         {"notSaved", "the words of what is not in the safeguard folder, as a list"},
         {"totalBytes", "of all files or sizes, or of the file system"},
         {"freeBytes", "of the file system"},
+        {"neededBytes", "what a run may take, if that is more than there is"},
         {"archive", "the name of an archive"},
         {"verdict", "good, missing, damaged or cannot be tested"},
         {"run", "a command line that would be run"},

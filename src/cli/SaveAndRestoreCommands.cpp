@@ -4,11 +4,13 @@
 
 #include "cli/Commands.h"
 #include "cli/SavedThings.h"
+#include "cli/SpaceNeeds.h"
 #include "cli/Summary.h"
 #include "cli/Words.h"
 #include "core/JoinedText.h"
 #include "core/SafeguardPaths.h"
 #include "guard/MissingPackages.h"
+#include "options/SizeFormatters.h"
 
 namespace tarnwick {
 
@@ -117,6 +119,22 @@ void reportMissingPackages(Session& session) {
     session.report("these packages of the list are not installed: " + joined(missing, ", "));
 }
 
+// Whether the space may not do, of which it tells.
+bool lacksSpace(Session& session, const Plan& plan, void (SpaceNeeds::*add)(const BackupItem&)) {
+    SpaceNeeds needs(session.files(), session.world().root);
+    for (const BackupItem* item : plan)
+        (needs.*add)(*item);
+    const auto shortage = needs.shortage();
+    if (!shortage)
+        return false;
+    session.output().complaint(
+        "this may take up to " + memoryFormatterDouble(static_cast<double>(shortage->needed)) +
+            " more on the file system of " + shortage->path + ", which has " +
+            memoryFormatterDouble(static_cast<double>(shortage->free)) + " free",
+        {{"neededBytes", shortage->needed}, {"freeBytes", shortage->free}});
+    return true;
+}
+
 // Gives what was begun back to its owner.
 std::vector<std::string> ownerLines(const Plan& plan) {
     std::vector<std::string> lines;
@@ -150,7 +168,9 @@ ExitStatus saveTargets(Session& session, const std::vector<std::string>& words) 
         }
         tellWhatWasSaved(session, words);
     };
-    return session.perform({.work = work, .what = "save " + joined(words, " ")});
+    const auto hasRisk = [&] { return lacksSpace(session, plan, &SpaceNeeds::addSave); };
+    return session.perform(
+        {.hasRisk = hasRisk, .work = work, .what = "save " + joined(words, " ")});
 }
 
 ExitStatus restoreTargets(Session& session, const std::vector<std::string>& words) {
@@ -181,7 +201,9 @@ ExitStatus restoreTargets(Session& session, const std::vector<std::string>& word
         if (report.offer != Offer::None)
             session.restore().accept(answerTo(session, report.offer));
     };
-    return session.perform({.work = work,
+    const auto hasRisk = [&] { return lacksSpace(session, plan, &SpaceNeeds::addRestore); };
+    return session.perform({.hasRisk = hasRisk,
+                            .work = work,
                             .repairs = ownerLines(plan),
                             .afterwards = afterwards,
                             .what = "restore " + joined(words, " "),

@@ -9,6 +9,9 @@ namespace tarnwick {
 
 namespace {
 
+// What no report is as a status.
+constexpr int needsConfirmation = 100;
+
 Colour colourFor(int descriptor) {
     const char* noColour = std::getenv("NO_COLOR");
     const bool refused = noColour != nullptr && *noColour != '\0';
@@ -83,19 +86,23 @@ void Session::reportBeforehand(const std::string& fault) {
 }
 
 std::optional<ExitStatus> Session::refusal(const Alert& question) {
+    return refusal({{"question", question.message}}, [&] { return questions_.confirm(question); });
+}
+
+std::optional<ExitStatus> Session::refusal(const JsonFields& facts,
+                                           const std::function<bool()>& ask) {
     if (arguments_.yes || arguments_.dryRun)
         return std::nullopt;
     if (!questions_.canAsk()) {
-        output_.complaint("this needs a confirmation; without a terminal, use --yes",
-                          {{"question", question.message}});
+        output_.complaint("this needs a confirmation; without a terminal, use --yes", facts);
         return WrongUsage;
     }
-    if (questions_.confirm(question))
-        return std::nullopt;
-    return NotAllDone;
+    return ask() ? std::nullopt : std::optional(NotAllDone);
 }
 
 int Session::workAndReport(const Undertaking& task) {
+    if (task.hasRisk() && !arguments_.yes && !arguments_.dryRun)
+        return needsConfirmation;
     task.work();
     line_.stop();
     if (output_.lostResult()) {
@@ -159,6 +166,14 @@ std::optional<ExitStatus> Session::failureOf(const Undertaking& task, Supervised
     return interrupted ? Interrupted : NotAllDone;
 }
 
+ExitStatus Session::performConfirmed(Undertaking task) {
+    if (const auto refused =
+            refusal({{"question", "Go on ?"}}, [this] { return questions_.confirm("Go on"); }))
+        return *refused;
+    task.hasRisk = [] { return false; };
+    return perform(task);
+}
+
 ExitStatus Session::perform(const Undertaking& task) {
     SupervisedRun run = {SupervisedRun::End::Finished};
     if (arguments_.dryRun) {
@@ -171,6 +186,8 @@ ExitStatus Session::perform(const Undertaking& task) {
     }
     if (const auto failure = failureOf(task, run.end))
         return *failure;
+    if (run.status == needsConfirmation)
+        return performConfirmed(task);
     const RunReport report = RunReport::fromStatus(run.status);
     task.afterwards(report);
     return report.hasProblem ? NotAllDone : AllDone;

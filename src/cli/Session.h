@@ -35,12 +35,15 @@ struct World {
     std::string logPath;  // of a run that goes on when its terminal hangs up
     std::string mailerProgram;
     std::function<SupervisedRun(const SupervisedWork& supervised)> supervise;
+    std::string root = {};  // where the device's paths begin
 };
 
 inline constexpr const char* lostResultText = "the results cannot be written";
 
 // What a verb does in a process of its own.
 struct Undertaking {
+    // Says what speaks against the work, if anything does: then it needs a confirmation.
+    std::function<bool()> hasRisk = [] { return false; };
     std::function<void()> work;
     // Lines that are run if it does not come to its end, to leave what was begun in order.
     std::vector<std::string> repairs = {};
@@ -98,6 +101,8 @@ private:
     void warnOfInterrupt(const Undertaking& task);
     SupervisedRun runInOwnProcess(const Undertaking& task);
     void settleRecord(const Undertaking& task, const SupervisedRun& run);
+    ExitStatus performConfirmed(Undertaking task);
+    std::optional<ExitStatus> refusal(const JsonFields& facts, const std::function<bool()>& ask);
     std::optional<ExitStatus> failureOf(const Undertaking& task, SupervisedRun::End end);
 
     // Initialisers only bind references to other members, so that their order does not matter.

@@ -53,7 +53,7 @@ bool prepareForCommands() {
     // A limit to the size of files is an error like a full disk.
     std::signal(SIGXFSZ, SIG_IGN);
     // Options that the caller set for these tools could make archives that no restore can use.
-    for (const char* options : {"ZIP", "ZIPOPT", "UNZIP", "UNZIPOPT"})
+    for (const char* options : {"ZIP", "ZIPOPT", "UNZIP", "UNZIPOPT", "ZIPINFO", "ZIPINFOOPT"})
         ::unsetenv(options);
     putOwnToolsFirst();
     // One copy line has a relative target.

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
+#include <map>
 #include <nlohmann/json.hpp>
 #include <set>
 #include <sstream>
@@ -335,6 +337,40 @@ TEST(CommandLine, ARestoreOfAllEndsWithALineForEachItem) {
                                               "SMS.zip -d /var/tmp/: ended with status 9)\n"));
 }
 
+TEST(CommandLine, ARunThatMayFillTheDiskNeedsAConfirmation) {
+    constexpr std::int64_t dataSize = 1 << 20;
+    const std::string pictures = "/var/mobile/Media/DCIM/picture";
+    const auto isRefusedWith = [&](const std::string& words, std::int64_t free) {
+        CommandLineRun tarnwick;
+        tarnwick.folder.put(pictures, std::string(dataSize, 'x'));
+        tarnwick.folder.put("/var/mobile/Library/Notes/note", "");
+        tarnwick.folder.put(library + "archived", std::string(dataSize, 'x'));
+        EXPECT_EQ(std::system(("cd " + tarnwick.folder.path() + library +
+                               " && zip -q DCIM.zip archived && rm archived")
+                                  .c_str()),
+                  0);
+        tarnwick.files.freeElsewhere = free;
+        const bool isRefused = tarnwick(words) == WrongUsage;
+        EXPECT_EQ(tarnwick.diary.changes().empty(), isRefused);
+        EXPECT_EQ(isRefused, tarnwick.problems().find("--yes") != std::string::npos);
+        EXPECT_EQ(tarnwick.problems().find("this may take up to") != std::string::npos,
+                  isRefused || words.ends_with("--yes"));
+        return isRefused;
+    };
+    // A copy and an archive of the same size; what is unpacked, over pictures of that size; and the
+    // blocks of folders.
+    constexpr std::int64_t folders = 1 << 15;
+    for (const auto& [words, needed] :
+         std::map<std::string, std::int64_t>{{"save photos", 2 * dataSize},
+                                             {"save all", 2 * dataSize},
+                                             {"restore photos", dataSize}}) {
+        EXPECT_TRUE(isRefusedWith(words, needed - 1)) << words;
+        EXPECT_FALSE(isRefusedWith(words, needed + folders)) << words;
+        EXPECT_FALSE(isRefusedWith(words + " --yes", 0)) << words;
+    }
+    EXPECT_FALSE(isRefusedWith("save notes", folders));
+}
+
 TEST(CommandLine, SizesAreAddedUp) {
     CommandLineRun tarnwick;
     tarnwick.folder.put(library + "Notes.zip", "zip");
@@ -377,6 +413,10 @@ TEST(CommandLine, EachFieldOfAnObjectIsOneThatIsDescribed) {
         addNames(tarnwick.results() + tarnwick.problems(), printed);
         tarnwick.folder.put(cache, "deb");
     }
+    tarnwick.files.freeElsewhere = 0;
+    tarnwick.folder.put("/var/mobile/Library/Notes/note", "note");
+    tarnwick("save notes --json");
+    addNames(tarnwick.problems(), printed);
     tarnwick.end = SupervisedRun::End::Interrupted;
     tarnwick("save notes --json");
     addNames(tarnwick.problems(), printed);

@@ -57,6 +57,7 @@ int CommandLineRun::operator()(const std::string& words) {
                 supervised.tidyUp();
                 return SupervisedRun{end};
             },
+        .root = folder.path(),
     };
     return runCommandLine(parseArguments(typed), world);
 }

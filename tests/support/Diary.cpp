@@ -87,7 +87,7 @@ std::int64_t RecordingFileManager::fileSystemSize(std::string_view path) const {
 }
 
 std::int64_t RecordingFileManager::fileSystemFreeSize(std::string_view path) const {
-    return path == "/private/var" ? 13421772800 : 0;
+    return path == "/private/var" ? 13421772800 : freeElsewhere;
 }
 
 void RecordingFeedback::show(const Alert& alert) {

@@ -62,6 +62,8 @@ public:
     std::int64_t fileSystemSize(std::string_view path) const override;
     std::int64_t fileSystemFreeSize(std::string_view path) const override;
 
+    std::int64_t freeElsewhere = 1 << 30;  // bytes
+
 private:
     Diary& diary_;
 };
