@@ -31,11 +31,17 @@ std::vector<std::string> sizeWords(const ItemCatalogue& catalogue) {
 const std::vector<std::pair<std::string, std::string>>& exitStatusTable() {
     static const std::vector<std::pair<std::string, std::string>> statuses = {
         {"0", "all done"},
-        {"1", "not all done: something failed, is missing or damaged, or the answer was no"},
-        {"2", "wrong usage"},
-        {"3", "another run is under way"},
+        {"1",
+         "not all done: something failed, is missing or damaged, the answer was no, or the results "
+         "could not be written"},
+        {"2",
+         "wrong usage; or a confirmation or an address was needed, and there was neither a "
+         "terminal "
+         "nor the option"},
+        {"3", "another run is under way, of the command or of the window"},
         {"4", "not root"},
-        {"130", "interrupted"},
+        {"130", "interrupted; what was under way has been tidied up"},
+        {"128+N", "ended by signal N, by SIGINT for example, while nothing was under way"},
     };
     return statuses;
 }

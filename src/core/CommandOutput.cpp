@@ -63,7 +63,9 @@ bool CommandOutput::redirect(Stream& stream) {
 
 std::string CommandOutput::takeLastLine() {
     const std::scoped_lock lock(guard_);
-    return std::exchange(lastLine_, {});
+    const std::string printed = std::exchange(streams_.front().lastLine, {});
+    const std::string complained = std::exchange(streams_.back().lastLine, {});
+    return complained.empty() ? printed : complained;
 }
 
 void CommandOutput::drain(const std::stop_token& stopped) {
@@ -78,10 +80,9 @@ void CommandOutput::drain(const std::stop_token& stopped) {
 
 void CommandOutput::takeIn() {
     const std::scoped_lock lock(guard_);
-    for (const Stream& stream : streams_) {
+    for (Stream& stream : streams_) {
         const std::string text = readFrom(stream);
-        if (stream.number == STDERR_FILENO)
-            remember(text);
+        remember(stream, text);
         if (shownOn_ >= 0 && !writeAll(shownOn_, text))
             shownOn_ = -1;
     }
@@ -93,16 +94,16 @@ std::string CommandOutput::readFrom(const Stream& stream) {
     return {buffer, static_cast<std::size_t>(std::max<ssize_t>(count, 0))};
 }
 
-void CommandOutput::remember(std::string_view text) {
+void CommandOutput::remember(Stream& stream, std::string_view text) {
     for (const char character : text) {
         if (character == '\n' || character == '\r') {
-            lineIsComplete_ = true;
+            stream.lineIsComplete = true;
             continue;
         }
-        if (std::exchange(lineIsComplete_, false))
-            lastLine_.clear();
-        if (lastLine_.size() < longestLine)
-            lastLine_ += character;
+        if (std::exchange(stream.lineIsComplete, false))
+            stream.lastLine.clear();
+        if (stream.lastLine.size() < longestLine)
+            stream.lastLine += character;
     }
 }
 

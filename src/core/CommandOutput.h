@@ -29,8 +29,8 @@ public:
     void start();
     // Takes in what has been printed so far. Any thread.
     void takeIn();
-    // Returns the last line taken in from standard error since the last call; empty if there was
-    // none. Any thread.
+    // Returns the last line taken in since the last call, from standard error, else from standard
+    // output, where some tools write their errors; empty if there was none. Any thread.
     std::string takeLastLine();
 
 private:
@@ -38,20 +38,20 @@ private:
         int number;
         std::optional<Pipe> pipe = {};
         int before = -1;
+        std::string lastLine = {};
+        bool lineIsComplete = true;
     };
 
     static bool redirect(Stream& stream);
     void leadBack();
     void drain(const std::stop_token& stopped);
     static std::string readFrom(const Stream& stream);
-    void remember(std::string_view text);
+    static void remember(Stream& stream, std::string_view text);
 
     std::once_flag started_;
     std::mutex guard_;  // of what follows
     int shownOn_;
     std::array<Stream, 2> streams_;
-    std::string lastLine_;
-    bool lineIsComplete_ = true;
     std::optional<Pipe> wakeUp_;
     std::jthread thread_;
 };

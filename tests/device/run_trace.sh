@@ -33,13 +33,14 @@ expected() {
 }
 
 # From a trace of system calls: each line given to a shell, and each change by a process that started no other program.
-# A removal tries the path as a file first and then as a folder. Claims of scratch places and the log of a restore are not the verb's.
+# A removal tries the path as a file first and then as a folder. Claims of scratch places, the log of a restore and the look at what
+# its archives unpack to are not the verb's.
 changes_in() {
     awk '
         function quoted(text) { sub(/^[^"]*"/, "", text); sub(/".*/, "", text); return text }
         NR == FNR { if (/execve\(/ && !/\/tarnwick"/) started[$1] = 1; next }
         /execve\("\/bin\/sh", \["sh", "-c", ("--", )?"/ { line = $0; sub(/.*"-c", ("--", )?"/, "", line); sub(/"\].*/, "", line)
-            print "run: " line; next }
+            if (line !~ /unzip -Zt/) print "run: " line; next }
         started[$1] || !/\) += 0$/ || /mkdir\("\/var\/tmp\// || /"\/var\/lib\/tarnwick/ { next }
         /(rmdir|unlink)\("\// { print "remove: " quoted($0) }
         /mkdir\("\// { print "create folder: " quoted($0) }

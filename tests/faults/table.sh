@@ -43,13 +43,17 @@ fault "reboot is missing" 'rm /sbin/reboot' "reboot --yes" 1 reboot untouched
 
 # Space. The earlier archives and lists stay, and what a restore cannot unpack it leaves alone.
 for left in 0 40 400 1200 2600; do
-    fault "$left KB are left: save" "head -c 2M /dev/urandom >$notes/big; fill $left" "save sources packages all" 1 "no space left" kept
+    fault "$left KB are left: save" "head -c 2M /dev/urandom >$notes/big; fill $left" "save sources packages all --yes" 1 "no space left" kept
+    fault "$left KB are left: nobody says to go on" "head -c 2M /dev/urandom >$notes/big; fill $left" "save sources packages all" 2 \
+        "this may take up to" untouched
     fault "$left KB are left: restore" "head -c 3M /dev/urandom >$notes/big; tarnwick save notes; cp $notes/big /run; fill $left" \
-        "restore notes" 1 "no space left on /var" 'cmp /run/big $notes/big && no_strays'
+        "restore notes --yes" 1 "no space left on /var" 'cmp /run/big $notes/big && no_strays'
+    fault "$left KB are left: nobody says to restore" "head -c 3M /dev/urandom >$notes/big; tarnwick save notes; fill $left" \
+        "restore notes" 2 "this may take up to" no_strays
 done
 fault "part of a copy is taken away again, which makes room" 'seq 9999 >$home/Preferences/a.plist
     touch -d yesterday $home/Preferences/a.plist; tarnwick save tweaks-prefs; head -c 1M /dev/urandom >$archives/Voicemail.zip; fill 900' \
-    "save tweaks-prefs" 1 "no space left" 'unzip -p $archives/Preferences.zip "*/a.plist" | cmp $home/Preferences/a.plist'
+    "save tweaks-prefs --yes" 1 "no space left" 'unzip -p $archives/Preferences.zip "*/a.plist" | cmp $home/Preferences/a.plist'
 fault "500 KB are left: size" 'rm $archives/Notes.zip; head -c 2M /dev/urandom >$notes/big; fill 500' "size notes" 1 \
     "no space left" no_strays
 leave_no_inode

@@ -40,13 +40,17 @@ offers "tarnwick s" save size storage
 offers "tarnwick save no" notes
 offers "tarnwick save notes p" packages photos
 offers "tarnwick save photos pho"
-offers "tarnwick size --yes ca" calendar call-history
-offers "tarnwick size notes "
+offers "tarnwick size --verbose ca" calendar call-history
+offers "tarnwick size notes ph" photos
+offers "tarnwick help re" reboot remove respring restore
 offers "tarnwick list "
 offers "tarnwick folders C" CydiaPackages CydiaSources
 offers "tarnwick remove " backups sources-list
 offers "tarnwick restore all --then " nothing reboot respring
 offers "tarnwick restore all --then=re" reboot respring
 offers "tarnwick --then reboot res" respring restore
-offers "tarnwick mail --to owner@example.org --t" --then --to
+offers "tarnwick mail --to owner@example.org --t" --to
+offers "tarnwick restore notes --t" --then
+offers "tarnwick list --j" --json
+refuse "fish: tarnwick list --d" grep -q dry <<<"$(fish_offers "tarnwick list --d")"
 offers "RootTarnwick2 --action s" save save-all

@@ -57,12 +57,37 @@ std::string zshOption(const Option& option) {
            " " + quoted("(" + option.shortWord + " " + option.word + ")" + option.word + purpose);
 }
 
-std::string fishOption(const Option& option) {
+// The commands that know an option, if not all do.
+Words knownTo(const Option& option, const std::vector<Command>& commands) {
+    Words names;
+    for (const Command& command : commands)
+        if (!option.isForEveryVerb && knowsOption(command, option))
+            names.push_back(command.name);
+    return names;
+}
+
+// The words of the options that a command knows.
+Words optionsOf(const Command& command) {
+    Words words;
+    for (const Option& option : optionTable()) {
+        if (!knowsOption(command, option))
+            continue;
+        if (!option.shortWord.empty())
+            words.push_back(option.shortWord);
+        words.push_back(option.word);
+    }
+    return words;
+}
+
+std::string fishOption(const Option& option, const std::vector<Command>& commands) {
+    const Words knowing = knownTo(option, commands);
+    const std::string condition =
+        knowing.empty() ? "" : " -n '__tarnwick_knows " + joined(knowing, " ") + "'";
     const std::string letter = option.shortWord.empty() ? "" : " -s " + option.shortWord.substr(1);
     const std::string values =
         takesValue(option) ? " -x -a " + quoted(joined(valuesOf(option), " ")) : "";
-    return "complete -c tarnwick -l " + option.word.substr(2) + letter + values + " -d " +
-           quoted(option.purpose);
+    return "complete -c tarnwick" + condition + " -l " + option.word.substr(2) + letter + values +
+           " -d " + quoted(option.purpose);
 }
 
 std::string fishCommand(const Command& command) {
@@ -76,9 +101,10 @@ std::string fishWords(const Command& command) {
 }
 
 void addCommands(Fragments& fragments, const ItemCatalogue& catalogue) {
-    Words names, words, counts, described, fish;
+    Words names, words, counts, options, described, fish;
     for (const Command& command : commandTable(catalogue)) {
         names.push_back(command.name);
+        options.push_back(cell(command.name, joined(optionsOf(command), " ")));
         described.push_back(quoted(command.name + ":" + command.purpose));
         fish.push_back(fishCommand(command));
         if (command.words.empty())
@@ -90,18 +116,19 @@ void addCommands(Fragments& fragments, const ItemCatalogue& catalogue) {
     fragments["COMMAND_NAMES"] = joined(names, " ");
     fragments["WORDS"] = joined(words, "\n        ");
     fragments["MOST_WORDS"] = joined(counts, " ");
+    fragments["KNOWN_OPTIONS"] = joined(options, "\n        ");
     fragments["ZSH_COMMANDS"] = joined(described, "\n        ");
     fragments["FISH_COMMANDS"] = joined(fish, "\n");
 }
 
-void addOptions(Fragments& fragments) {
+void addOptions(Fragments& fragments, const std::vector<Command>& commands) {
     Words names, withValue, values, zsh, fish;
     for (const Option& option : optionTable()) {
         if (!option.shortWord.empty())
             names.push_back(option.shortWord);
         names.push_back(option.word);
         zsh.push_back(zshOption(option));
-        fish.push_back(fishOption(option));
+        fish.push_back(fishOption(option, commands));
         if (!takesValue(option))
             continue;
         withValue.push_back(option.word);
@@ -110,7 +137,7 @@ void addOptions(Fragments& fragments) {
     fragments["OPTION_NAMES"] = joined(names, " ");
     fragments["OPTIONS_WITH_VALUE"] = joined(withValue, " ");
     fragments["OPTION_VALUES"] = joined(values, " ");
-    fragments["ZSH_OPTIONS"] = joined(zsh, " \\\n        ");
+    fragments["ZSH_OPTIONS"] = joined(zsh, "\n        ");
     fragments["FISH_OPTIONS"] = joined(fish, "\n");
 }
 
@@ -119,7 +146,7 @@ void addOptions(Fragments& fragments) {
 Fragments completionFragments(const ItemCatalogue& catalogue) {
     Fragments fragments;
     addCommands(fragments, catalogue);
-    addOptions(fragments);
+    addOptions(fragments, commandTable(catalogue));
     return fragments;
 }
 

@@ -2,6 +2,7 @@
 #include <cctype>
 
 #include "cli/CommandTable.h"
+#include "cli/JsonFields.h"
 #include "cli/Words.h"
 #include "cli/documents/Fragments.h"
 #include "core/Characters.h"
@@ -92,12 +93,22 @@ std::string itemEntries(const ItemCatalogue& catalogue) {
     return text;
 }
 
-std::string optionEntries() {
+// Which commands know the option, if not all do.
+std::string commandsThatKnow(const Option& option, const std::vector<Command>& commands) {
+    std::vector<std::string> names;
+    for (const Command& command : commands)
+        if (!option.isForEveryVerb && knowsOption(command, option))
+            names.push_back(inFont('B', command.name));
+    return names.empty() ? "" : "\nFor " + joined(names, ", ") + ".";
+}
+
+std::string optionEntries(const ItemCatalogue& catalogue) {
+    const auto commands = commandTable(catalogue);
     std::string text;
     for (const Option& option : optionTable()) {
         const std::string word = usage(option.word, option.values);
         text += entry(option.shortWord.empty() ? word : usage(option.shortWord) + ", " + word,
-                      sentence(option.purpose));
+                      sentence(option.purpose) + commandsThatKnow(option, commands));
     }
     return text;
 }
@@ -109,13 +120,22 @@ std::string statusEntries() {
     return text;
 }
 
+// As the values are written.
+std::string fieldEntries() {
+    std::string text;
+    for (const auto& [field, content] : jsonFieldTable())
+        text += entry(inFont('B', field), plain(content) + ".");
+    return text;
+}
+
 }  // namespace
 
 Fragments manPageFragments(const ItemCatalogue& catalogue) {
     return {{"COMMANDS", withoutLastLineEnd(commandEntries(catalogue))},
             {"ITEMS", withoutLastLineEnd(itemEntries(catalogue))},
-            {"OPTIONS", withoutLastLineEnd(optionEntries())},
-            {"EXIT_STATUS", withoutLastLineEnd(statusEntries())}};
+            {"OPTIONS", withoutLastLineEnd(optionEntries(catalogue))},
+            {"EXIT_STATUS", withoutLastLineEnd(statusEntries())},
+            {"JSON_FIELDS", withoutLastLineEnd(fieldEntries())}};
 }
 
 }  // namespace tarnwick
