@@ -28,8 +28,12 @@ Exec=RootTarnwick2 --action $action" \
         "$(sed -n "/^\[Desktop Action $action\]/,/^\$/p" "$id.desktop" | grep -v '^\[\|^Name\|^$')"
 done
 
-version() {
-    sed -n "s/$1.*/\1/p" "$2" | head -n 1
+release() {
+    sed -n "s/$1.*/\1 \2/p" "$2" | head -n 1
 }
-same "the newest release is the one that is built" "$(version '^project(Tarnwick VERSION \([0-9.]*\)' ../CMakeLists.txt)" \
-    "$(version '.*<release version="\([0-9.]*\)"' "$id.metainfo.xml.in")"
+newest=$(release '^## \[\([0-9.]*\)\] - \([0-9-]*\)' ../CHANGELOG.md)
+same "the newest release is that of the changelog" "$newest" \
+    "$(release '.*<release version="\([0-9.]*\)" date="\([0-9-]*\)"' "$id.metainfo.xml.in")"
+same "and is built" "tarnwick ${newest% *}" "$("$build/bin/tarnwick" --version)"
+same "Debian's changelog has every release" "$(grep -c '^## \[[0-9]' ../CHANGELOG.md)" \
+    "$(./debian-changelog | dpkg-parsechangelog --file - --all --format rfc822 2>&1 | grep -c '^Version: ')"
