@@ -145,6 +145,17 @@ std::vector<std::string> ownerLines(const Plan& plan) {
     return lines;
 }
 
+// What the operations do not tell.
+void endRestore(Session& session, bool hasSources, const Plan& plan,
+                const std::vector<std::string>& words) {
+    if (has(words, packagesWord))
+        reportMissingPackages(session);
+    reportMissingBackups(session, hasSources, plan, words);
+    if (session.arguments().dryRun)
+        rehearseMissingBackups(session, words);
+    tellWhatWasRestored(session, words);
+}
+
 // What to do about an offer: as --then says, else as the person at the terminal says, else nothing.
 Offer answerTo(Session& session, Offer offer) {
     if (session.arguments().then)
@@ -186,16 +197,10 @@ ExitStatus restoreTargets(Session& session, const std::vector<std::string>& word
             return *refused;
     if (const auto refused = addRestoreSteps(session, words, steps))
         return *refused;
-    const bool installsPackages = has(words, packagesWord);
     const auto work = [&] {
         for (const auto& step : steps)
             step();
-        if (installsPackages)
-            reportMissingPackages(session);
-        reportMissingBackups(session, hasSources, plan, words);
-        if (session.arguments().dryRun)
-            rehearseMissingBackups(session, words);
-        tellWhatWasRestored(session, words);
+        endRestore(session, hasSources, plan, words);
     };
     const auto afterwards = [&session](const RunReport& report) {
         if (report.offer != Offer::None)
@@ -208,7 +213,7 @@ ExitStatus restoreTargets(Session& session, const std::vector<std::string>& word
                             .afterwards = afterwards,
                             .what = "restore " + joined(words, " "),
                             .isRestore = true,
-                            .installsPackages = installsPackages});
+                            .installsPackages = has(words, packagesWord)});
 }
 
 }  // namespace tarnwick

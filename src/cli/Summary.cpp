@@ -68,6 +68,8 @@ void tellEach(Session& session, const std::vector<std::string>& words, EndingOf 
     const bool isWanted = arguments.json || std::ranges::count(words, everyItem) > 0;
     if (arguments.dryRun || !isWanted)
         return;
+    // In one case it is still there.
+    session.feedback().hideHud();
     for (const SavedThing& thing : savedThings(session.files(), session.catalogue(), words))
         tell(session, thing.word,
              endingOf(session, thing, session.feedback().outcomeOf(thing.word)));

@@ -5,6 +5,7 @@
 
 #include "support/CommandLineRun.h"
 #include "support/Operations.h"
+#include "support/Terminal.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -97,6 +98,19 @@ TEST(Endings, ARunThatMayFillTheDiskNeedsAConfirmation) {
         EXPECT_FALSE(isRefusedWith(words + " --yes", 0)) << words;
     }
     EXPECT_FALSE(isRefusedWith("save notes", folders));
+}
+
+TEST(Endings, AtATerminalAPersonMayGoOnThoughTheDiskMayGetFull) {
+    const Terminal terminal;
+    for (const std::string answer : {"y\n", "\n"}) {
+        CommandLineRun tarnwick;
+        tarnwick.terminal = terminal.program;
+        tarnwick.folder.put("/var/mobile/Library/Notes/note", "note");
+        tarnwick.files.freeElsewhere = 0;
+        terminal.type(answer);
+        tarnwick("save notes");
+        EXPECT_EQ(tarnwick.diary.changes().empty(), answer == "\n");
+    }
 }
 
 TEST(Endings, SizesAreAddedUp) {
