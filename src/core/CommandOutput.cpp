@@ -94,16 +94,27 @@ std::string CommandOutput::readFrom(const Stream& stream) {
     return {buffer, static_cast<std::size_t>(std::max<ssize_t>(count, 0))};
 }
 
+void CommandOutput::beginLine(Stream& stream) {
+    constexpr std::size_t farIndented = 4;
+    if (stream.indent >= farIndented && !stream.lastLine.empty())
+        stream.lastLine += ' ';
+    else
+        stream.lastLine.clear();
+}
+
 void CommandOutput::remember(Stream& stream, std::string_view text) {
     for (const char character : text) {
         if (character == '\n' || character == '\r') {
             stream.lineIsComplete = true;
-            continue;
+            stream.indent = 0;
+        } else if (stream.lineIsComplete && character == ' ') {
+            ++stream.indent;
+        } else {
+            if (std::exchange(stream.lineIsComplete, false))
+                beginLine(stream);
+            if (stream.lastLine.size() < longestLine)
+                stream.lastLine += character;
         }
-        if (std::exchange(stream.lineIsComplete, false))
-            stream.lastLine.clear();
-        if (stream.lastLine.size() < longestLine)
-            stream.lastLine += character;
     }
 }
 

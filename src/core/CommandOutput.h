@@ -30,7 +30,8 @@ public:
     // Takes in what has been printed so far. Any thread.
     void takeIn();
     // Returns the last line taken in since the last call, from standard error, else from standard
-    // output, where some tools write their errors; empty if there was none. Any thread.
+    // output, where some tools write their errors; empty if there was none. What is far indented
+    // belongs to the line before. Any thread.
     std::string takeLastLine();
 
 private:
@@ -40,12 +41,14 @@ private:
         int before = -1;
         std::string lastLine = {};
         bool lineIsComplete = true;
+        std::size_t indent = 0;  // of the line that begins
     };
 
     static bool redirect(Stream& stream);
     void leadBack();
     void drain(const std::stop_token& stopped);
     static std::string readFrom(const Stream& stream);
+    static void beginLine(Stream& stream);
     static void remember(Stream& stream, std::string_view text);
 
     std::once_flag started_;

@@ -13,6 +13,8 @@ TEST(CommandOutput, KeepsTheLastLineOfWhatACommandSaidOrElsePrinted) {
         {"printf 'adding\\nzip error: Nothing to do!\\n\\n'", "zip error: Nothing to do!"},
         {"echo first >&2; echo inflating; echo 'bad CRC' >&2", "bad CRC"},
         {"printf '1%%\\r2%%'", "2%"},
+        {"printf ' inflating\\n bad CRC\\n' >&2", "bad CRC"},
+        {"printf 'neither a or\\n        b, period.\\n'", "neither a or b, period."},
     };
     for (const auto& [line, last] : rows) {
         runner.run(line);
