@@ -49,4 +49,9 @@ inline std::string nameOf(std::string_view path) {
     return std::string(path.substr(path.rfind('/') + 1));
 }
 
+// What comes before it and its slash.
+inline std::string folderOf(std::string_view path) {
+    return std::string(path.substr(0, path.rfind('/')));
+}
+
 }  // namespace tarnwick::paths

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "core/SafeguardPaths.h"
+#include "guard/ForeignLinks.h"
 
 namespace tarnwick {
 
@@ -19,7 +20,8 @@ void Guard::clearUp() {
     places_.clear();
     for (const std::string_view list :
          {paths::savedSourcesList, paths::savedCydiaList, paths::savedPackages})
-        KeptList(root_ + std::string(list)).recover();
+        if (!foreignLinkIn(root_, paths::folderOf(list)))
+            KeptList(root_ + std::string(list)).recover();
 }
 
 }  // namespace tarnwick

@@ -7,6 +7,7 @@
 
 #include "core/Reasons.h"
 #include "core/SafeguardPaths.h"
+#include "guard/ForeignLinks.h"
 
 namespace tarnwick {
 
@@ -70,6 +71,9 @@ std::int64_t GuardedFiles::fileSystemFreeSize(std::string_view path) const {
 }
 
 bool GuardedFiles::remove(std::string_view path) {
+    // Whatever is written there next reports it.
+    if (foreignLinkIn(root_, paths::folderOf(path)))
+        return false;
     if (isSavedList(path) && !KeptList(root_ + std::string(path)).keep())
         return reported(false, path, "removed");
     if (data_.isWhole(path)) {
@@ -82,6 +86,8 @@ bool GuardedFiles::remove(std::string_view path) {
 }
 
 bool GuardedFiles::copy(std::string_view from, std::string_view to) {
+    if (!isInPlace(to))
+        return false;
     const bool done = files_.copy(from, to);
     if (!done && isReadingFault(errno, root_ + std::string(from)))
         reported(done, from, "read");
@@ -91,15 +97,23 @@ bool GuardedFiles::copy(std::string_view from, std::string_view to) {
 }
 
 bool GuardedFiles::createDirectory(std::string_view path) {
-    return reported(files_.createDirectory(path), path, "made");
+    return isInPlace(path) && reported(files_.createDirectory(path), path, "made");
 }
 
 bool GuardedFiles::createFile(std::string_view path) {
-    return reported(files_.createFile(path), path, "written");
+    return isInPlace(path) && reported(files_.createFile(path), path, "written");
 }
 
 bool GuardedFiles::writeText(std::string_view path, std::string_view text) {
-    return settled(reported(files_.writeText(path, text), path, "written"), path);
+    return isInPlace(path) &&
+           settled(reported(files_.writeText(path, text), path, "written"), path);
+}
+
+bool GuardedFiles::isInPlace(std::string_view path) const {
+    const auto link = foreignLinkIn(root_, paths::folderOf(path));
+    if (link)
+        faults_(textOfForeignLink(*link));
+    return !link;
 }
 
 bool GuardedFiles::reported(bool done, std::string_view path, std::string_view verb) const {

@@ -31,6 +31,7 @@ public:
     bool writeText(std::string_view path, std::string_view text) override;
 
 private:
+    bool isInPlace(std::string_view path) const;
     bool reported(bool done, std::string_view path, std::string_view verb) const;
     bool settled(bool done, std::string_view list);
 

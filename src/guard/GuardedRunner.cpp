@@ -10,6 +10,7 @@
 #include "core/Reasons.h"
 #include "core/SafeguardPaths.h"
 #include "core/SystemFileManager.h"
+#include "guard/ForeignLinks.h"
 #include "guard/LinksInTheWay.h"
 #include "guard/PartialCopies.h"
 
@@ -45,11 +46,26 @@ bool copiesBack(const LineWords& words) {
     return words.program() == "cp" && words.operand().starts_with(paths::unpackedTree);
 }
 
-// As `cp -R` names the copy of a folder. One line has a relative target.
+// One line has a relative target.
+std::string absolute(const std::string& path) {
+    return (path.starts_with('/') ? "" : "/") + path;
+}
+
+std::string withoutSlashAtEnd(const std::string& path) {
+    return path.substr(0, path.find_last_not_of('/') + 1);
+}
+
+// As `cp -R` names the copy of a folder.
 std::string copyOf(const LineWords& words) {
-    const std::string source = words.operand().substr(0, words.operand().find_last_not_of('/') + 1);
-    const std::string target = words.last().substr(0, words.last().find_last_not_of('/') + 1);
-    return (target.starts_with('/') ? "" : "/") + target + "/" + paths::nameOf(source);
+    return withoutSlashAtEnd(absolute(words.last())) + "/" +
+           paths::nameOf(withoutSlashAtEnd(words.operand()));
+}
+
+// The folder in which the line writes. Archives and lists are replaced, whatever they are.
+std::string folderOfResult(const LineWords& words) {
+    if (const auto list = words.after(">"))
+        return paths::folderOf(*list);
+    return words.program() == "zip" ? paths::folderOf(words.operand()) : absolute(words.last());
 }
 
 // The shell, too, may tell of a signal by a status.
@@ -65,6 +81,11 @@ GuardedRunner::GuardedRunner(CommandRunner& runner, const ScratchPlaces& places,
 
 int GuardedRunner::run(const std::string& line) {
     const LineWords words(line);
+    if (const auto link = foreignLinkIn(root_, folderOfResult(words))) {
+        if (!hasNothingToWorkOn(words))
+            faults_(textOfForeignLink(*link));
+        return notRun;
+    }
     if (const auto list = words.after(">"))
         return runIntoList(line, *list);
     if (const auto list = words.after("<"))

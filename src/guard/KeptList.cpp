@@ -17,6 +17,11 @@ bool isList(const std::string& path) {
     return ::lstat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0;
 }
 
+bool isEmpty(const std::string& path) {
+    struct stat status = {};
+    return ::lstat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size == 0;
+}
+
 }  // namespace
 
 KeptList::KeptList(std::string path) : path_(std::move(path)), kept_(path_ + ".previous") {}
@@ -41,9 +46,14 @@ bool KeptList::moveAside() const {
 }
 
 bool KeptList::settle(bool isWhole) const {
-    if (!isWhole || !isList(path_))
-        return recover();
-    ::unlink(kept_.c_str());
+    if (isWhole && isList(path_)) {
+        ::unlink(kept_.c_str());
+        return false;
+    }
+    if (recover())
+        return true;
+    if (!isWhole && isEmpty(path_))
+        ::unlink(path_.c_str());
     return false;
 }
 

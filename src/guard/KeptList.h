@@ -17,8 +17,8 @@ public:
     // whether it could be kept, or there was none.
     bool keep() const;
     bool moveAside() const;
-    // Puts the kept list back, unless a new one has been written whole that is not empty. Returns
-    // whether one was put back.
+    // Puts the kept list back, unless a new one has been written whole that is not empty; nothing
+    // stays empty because it could not be written. Returns whether one was put back.
     bool settle(bool isWhole) const;
     // Puts back what was kept, by this run or one that was cut off; false if nothing was.
     bool recover() const;

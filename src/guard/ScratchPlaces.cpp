@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "core/SafeguardPaths.h"
+#include "guard/ForeignLinks.h"
 #include "guard/LineWords.h"
 
 namespace tarnwick {
@@ -42,7 +43,7 @@ ScratchPlaces::ScratchPlaces(const ItemCatalogue& catalogue, const LiveData& dat
 
 void ScratchPlaces::remove(const std::string& place) const {
     std::error_code ignored;
-    if (!data_.isWhole(place))
+    if (!data_.isWhole(place) && !foreignLinkIn(root_, paths::folderOf(place)))
         std::filesystem::remove_all(root_ + place, ignored);
 }
 

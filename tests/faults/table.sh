@@ -51,6 +51,8 @@ for left in 0 40 400 1200 2600; do
     fault "$left KB are left: nobody says to restore" "head -c 3M /dev/urandom >$notes/big; tarnwick save notes; fill $left" \
         "restore notes" 2 "this may take up to" no_strays
 done
+fault "nothing is left, and no earlier list" 'rm $sources $packages; echo deb >$apt/TWKSources.list; seq 9999 >$cache; fill 0' \
+    "save sources packages" 1 "no space left" '[[ ! -e $sources && ! -e $packages ]]'
 fault "part of a copy is taken away again, which makes room" 'seq 9999 >$home/Preferences/a.plist
     touch -d yesterday $home/Preferences/a.plist; tarnwick save tweaks-prefs; head -c 1M /dev/urandom >$archives/Voicemail.zip; fill 900' \
     "save tweaks-prefs --yes" 1 "no space left" 'unzip -p $archives/Preferences.zip "*/a.plist" | cmp $home/Preferences/a.plist'
@@ -133,6 +135,15 @@ done
 fault "mobile planted a link in the way of a restore" 'as mobile ln -sf /etc/shadow $notes/notes.sqlite' "restore notes" 0 "done" \
     'kept && same_notes'
 fault "mobile planted links for folders" 'rm -r $notes; as mobile ln -s /etc $notes' "restore notes" 1 "cannot overwrite" untouched
+
+fault "mobile planted a hard link in the way, where the kernel lets it" 'ln -f $good/shadow $notes/notes.sqlite' "restore notes" 0 "done" \
+    'kept && same_notes'
+for planted in '${sources%/*}' '${packages%/*}' '$archives' '$safe' '$home'; do
+    fault "mobile planted a link for $planted" "chown mobile \$safe; mv $planted /var/moved; as mobile ln -s /etc/apt $planted; cp -a /etc/apt /run" \
+        "save sources packages notes" 1 "is not followed" 'diff -r /run/apt /etc/apt'
+done
+fault "mobile has the folder elsewhere" 'mv $safe /var/mobile; chown mobile /var/mobile/Tarnwick; as mobile ln -s /var/mobile/Tarnwick $safe' \
+    "save sources notes" 0 "done" kept
 
 # Lists.
 fault "a cache with somebody's rights" 'setid_program $cache' "save sources" 0 "done" harmless
