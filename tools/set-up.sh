@@ -2,12 +2,20 @@
 # Sourced by ./run, ./test and packaging/build-package: installs what is missing and builds. Needs only Debian and bash.
 # The caller has set `repository` to the top of the checkout.
 
-# The packages for a purpose: every purpose needs those of `run`.
+# What a purpose needs besides its own. Not every library of the workstation can stand beside that of another architecture.
+basis_of() {
+    case $1 in
+        arm64 | armhf) echo foreign ;;
+        *) echo run ;;
+    esac
+}
+
 packages_for() {
-    local purpose=$1 package needed_for
+    local purpose=$1 basis package needed_for
+    basis=$(basis_of "$1")
     while read -r package needed_for _; do
         case $package in '' | '#'*) continue ;; esac
-        case ,$needed_for, in *,run,* | *,"$purpose",*) echo "$package" ;; esac
+        case ,$needed_for, in *,"$basis",* | *,"$purpose",*) echo "${package/%:foreign/:$purpose}" ;; esac
     done <"$repository/packages.txt"
 }
 
@@ -45,14 +53,23 @@ logged() {
     }
 }
 
+add_architectures() {
+    local package
+    for package in "$@"; do
+        case $package in *:*) as_root dpkg --add-architecture "${package#*:}" || return ;; esac
+    done
+}
+
+# Takes nothing away that is there for something else.
 install_packages() {
     local package
+    add_architectures "$@" || return
     for package in "$@"; do
         package_lists_are_there "$package" && continue
         as_root apt-get update -qq || return
         break
     done
-    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "$@"
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-remove --no-install-recommends "$@"
 }
 
 install_missing() {

@@ -35,7 +35,7 @@ bool needsBackslash(std::string_view character) {
 
 bool isControl(std::string_view character) {
     if (character.size() == 1)
-        return (character[0] >= 0 && character[0] < ' ') || character[0] == 0x7F;
+        return static_cast<unsigned char>(character[0]) < ' ' || character[0] == 0x7F;
     return character.size() == 2 && character[0] == '\xC2' &&
            static_cast<unsigned char>(character[1]) < 0xA0;
 }

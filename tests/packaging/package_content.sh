@@ -4,7 +4,7 @@
 source "$(dirname "${BASH_SOURCE[0]}")/package_lib.sh"
 require_programs dpkg-deb lintian
 
-package=$(ls "$repository"/build/package/tarnwick_*.deb)
+package=${TARNWICK_PACKAGE:-$(ls "$repository"/build/package/tarnwick_*.deb)}
 dpkg-deb --extract "$package" "$workspace/extracted"
 
 # Mode, owner and path of everything but folders.
