@@ -42,7 +42,7 @@ std::optional<std::vector<std::string>> namesIn(const std::string& folder) {
 
 class Reader {
 public:
-    Reader(const std::vector<std::string>& excluded, ZipReport& report) : report_(report) {
+    Reader(const std::vector<std::string>& excluded, TreeReport& report) : report_(report) {
         for (const std::string& path : excluded) {
             struct stat status = {};
             if (::stat(path.c_str(), &status) == 0)
@@ -54,6 +54,8 @@ public:
         struct stat status = {};
         if (::stat(path.c_str(), &status) != 0)
             reportMissing(path);
+        else if (contains(excluded_, status))
+            return;
         else if (S_ISDIR(status.st_mode))
             readFolder(path.ends_with('/') ? path : path + "/", status);
         else if (S_ISFIFO(status.st_mode))
@@ -62,7 +64,7 @@ public:
             report_.warn("ignoring special file", path);
         else if (::access(path.c_str(), R_OK) != 0)
             report_.skip("could not open for reading", path);
-        else if (!contains(excluded_, status))
+        else
             entries_.emplace_back(path, status);
     }
 
@@ -94,7 +96,7 @@ private:
     }
 
     std::vector<struct stat> excluded_;
-    ZipReport& report_;
+    TreeReport& report_;
     std::vector<struct stat> above_;
     std::vector<TreeEntry> entries_;
 };
@@ -116,7 +118,8 @@ std::string_view TreeEntry::name() const {
 }
 
 std::vector<TreeEntry> readFolderTree(const std::string& folder,
-                                      const std::vector<std::string>& excluded, ZipReport& report) {
+                                      const std::vector<std::string>& excluded,
+                                      TreeReport& report) {
     Reader reader(excluded, report);
     reader.read(folder);
     return reader.takeEntries();

@@ -8,8 +8,6 @@
 #include <string_view>
 #include <vector>
 
-#include "zip/Report.h"
-
 namespace tarnwick {
 
 // A file or folder to be archived, as it was when it was found.
@@ -29,9 +27,19 @@ struct TreeEntry {
     std::string_view name() const;
 };
 
+// What is said of that which is not among the entries.
+class TreeReport {
+public:
+    virtual ~TreeReport() = default;
+    // It is nothing that could be archived: a pipe, a link to nothing.
+    virtual void warn(std::string_view message, std::string_view subject) = 0;
+    // It cannot be read.
+    virtual void skip(std::string_view message, std::string_view subject) = 0;
+};
+
 // The folder with everything below it, links followed, in the order of the names. What cannot be
 // archived is reported. What the excluded paths lead to is left out.
 std::vector<TreeEntry> readFolderTree(const std::string& folder,
-                                      const std::vector<std::string>& excluded, ZipReport& report);
+                                      const std::vector<std::string>& excluded, TreeReport& report);
 
 }  // namespace tarnwick
