@@ -7,7 +7,8 @@ add_library(test_support STATIC support/CommandLineRun.cpp support/Diary.cpp sup
 target_include_directories(test_support PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
 target_compile_definitions(test_support PRIVATE
     TARNWICK_EVENTS_FILE="${CMAKE_CURRENT_SOURCE_DIR}/events/events.txt")
-target_link_libraries(test_support PUBLIC core backup_operations restore_operations options_operations cli GTest::gtest)
+target_link_libraries(test_support PUBLIC core backup_operations restore_operations options_operations cli_with_archives GTest::gtest
+    INTERFACE $<TARGET_OBJECTS:cli_with_archives>)
 
 # Tests of items and windows have a loop and a clock of their own, and no display.
 add_library(window_support STATIC support/Finger.cpp support/SteppedClock.cpp support/qt_main.cpp)

@@ -15,6 +15,9 @@ struct Arguments {
     bool dryRun = false;
     bool json = false;
     bool verbose = false;
+    bool archivesOnly = false;
+    bool noCheck = false;
+    bool verify = false;
     bool help = false;
     bool version = false;
     // The answer to the offer after a restore: Offer::None is "nothing"; null asks.

@@ -22,6 +22,8 @@ std::optional<std::string> faultOf(const Command& command, const Arguments& argu
 // What is wrong with the words after the command's name.
 std::optional<std::string> faultOf(const Command& command, const std::vector<std::string>& words) {
     for (const std::string& word : words) {
+        if (command.takesFile)
+            break;
         if (command.words.empty())
             return command.name + " takes no more words";
         if (std::find(command.words.begin(), command.words.end(), word) == command.words.end())
@@ -30,7 +32,7 @@ std::optional<std::string> faultOf(const Command& command, const std::vector<std
     if (words.size() < command.fewestWords)
         return command.name + " needs one of: " + joined(command.words, ", ");
     if (words.size() > command.mostWords)
-        return command.name + " takes one word only";
+        return command.name + (command.takesFile ? " takes one file only" : " takes one word only");
     return std::nullopt;
 }
 
@@ -73,6 +75,11 @@ void mentionLeftRun(Session& session) {
     lock.clear();
 }
 
+// A rehearsal changes nothing, nor does the look at a copy, which may be done on any machine.
+bool changesSomething(const Command& command, const Arguments& arguments) {
+    return command.reach == Reach::Changes && !arguments.dryRun && !arguments.verify;
+}
+
 ExitStatus runCommand(Session& session, const Command& command,
                       const std::vector<std::string>& words) {
     if (const auto fault = faultOf(command, session.arguments()))
@@ -80,7 +87,7 @@ ExitStatus runCommand(Session& session, const Command& command,
     if (const auto fault = faultOf(command, words))
         return wrongUsage(session, *fault);
     mentionLeftRun(session);
-    if (command.reach == Reach::Changes && !session.arguments().dryRun)
+    if (changesSomething(command, session.arguments()))
         return runLocked(session, command, words);
     return command.run(session, words);
 }

@@ -16,13 +16,19 @@ enum class Reach {
     Changes  // needs root, and that no other run is under way
 };
 
+// Which program does it. The libraries that copies and archives take would slow down the start of
+// all other verbs.
+enum class Program { Light, WithArchives };
+
 // One verb of the command. Their table feeds dispatch, help, man page and completions.
 struct Command {
     std::string name;
     std::string synopsis = {};  // of what follows the name
     std::string purpose;
     Reach reach = Reach::Looks;
+    Program program = Program::Light;
     std::vector<std::string> words = {};  // what may follow the name
+    bool takesFile = false;               // what follows is the path of a file
     std::size_t fewestWords = 0;
     std::size_t mostWords = 0;
     std::vector<std::string> options = {};  // those that it knows besides those of every verb

@@ -16,7 +16,8 @@ ExitStatus saveTargets(Session& session, const std::vector<std::string>& words);
 ExitStatus restoreTargets(Session& session, const std::vector<std::string>& words);
 
 ExitStatus listSafeguard(Session& session, const std::vector<std::string>& words);
-ExitStatus checkArchives(Session& session, const std::vector<std::string>& words);
+ExitStatus checkForWipe(Session& session, const std::vector<std::string>& words);
+ExitStatus compareFiles(Session& session, const std::vector<std::string>& words);
 ExitStatus showStorage(Session& session, const std::vector<std::string>& words);
 ExitStatus showHelpTexts(Session& session, const std::vector<std::string>& words);
 
@@ -25,6 +26,9 @@ ExitStatus recreateFolders(Session& session, const std::vector<std::string>& wor
 ExitStatus removeSaved(Session& session, const std::vector<std::string>& words);
 ExitStatus respringDevice(Session& session, const std::vector<std::string>& words);
 ExitStatus rebootDevice(Session& session, const std::vector<std::string>& words);
+
+ExitStatus exportSafeguard(Session& session, const std::vector<std::string>& words);
+ExitStatus importSafeguard(Session& session, const std::vector<std::string>& words);
 
 ExitStatus mailPackageList(Session& session, const std::vector<std::string>& words);
 

@@ -1,15 +1,11 @@
-#include <sys/wait.h>
-
 #include <algorithm>
-#include <cerrno>
 #include <ctime>
 
 #include "cli/Commands.h"
 #include "cli/QuotedName.h"
+#include "cli/SafeguardState.h"
 #include "cli/SavedThings.h"
-#include "cli/Words.h"
 #include "core/JoinedText.h"
-#include "core/Reasons.h"
 #include "core/SafeguardPaths.h"
 #include "help/HelpTexts.h"
 #include "options/SizeFormatters.h"
@@ -71,23 +67,6 @@ void showFile(Session& session, const std::vector<SavedThing>& things, const std
                             fields);
 }
 
-// Complains of each part of the safeguard folder that cannot be listed. One that does not exist is
-// empty.
-bool isReadable(Session& session) {
-    bool readable = true;
-    for (const std::string_view folder : paths::safeguardFolders) {
-        if (session.files().list(folder) || errno == ENOENT)
-            continue;
-        session.output().complaint(failureText(folder, "read", errno));
-        readable = false;
-    }
-    return readable;
-}
-
-ExitStatus unreadable(const Session& session) {
-    return session.world().isRoot ? NotAllDone : NotRoot;
-}
-
 void listFolder(Session& session, const std::vector<SavedThing>& things, const std::string& folder,
                 Total& total) {
     auto names = session.files().list(folder).value_or(std::vector<std::string>{});
@@ -119,56 +98,6 @@ void showTotal(Session& session, const std::vector<SavedThing>& things, const To
         text, {{"files", total.files}, {"totalBytes", total.bytes}, {"notSaved", missing}});
 }
 
-// The archives of the named items; without names, of all.
-std::vector<std::string> archivesOf(Session& session, const std::vector<std::string>& words) {
-    std::vector<std::string> archives;
-    for (const BackupItem& item : session.catalogue()) {
-        const bool named =
-            std::find(words.begin(), words.end(), kebabCase(item.key)) != words.end();
-        for (const std::string& path : item.archivePaths())
-            if (named || words.empty())
-                archives.push_back(path);
-    }
-    return archives;
-}
-
-// What the status of unzip says about an archive. It is not the archive's fault if unzip cannot be
-// started, was killed, or lacks memory.
-std::string verdictOf(int status) {
-    constexpr int worstWarning = 1;
-    constexpr int firstMemoryError = 4;
-    constexpr int lastMemoryError = 8;
-    constexpr int cannotBeStarted = 126;
-    const int code = WEXITSTATUS(status);
-    if (!WIFEXITED(status) || code >= cannotBeStarted ||
-        (code >= firstMemoryError && code <= lastMemoryError))
-        return "cannot be tested";
-    return code <= worstWarning ? "good" : "damaged";
-}
-
-std::string verdictOn(Session& session, const std::string& path) {
-    if (!session.files().exists(path))
-        return "missing";
-    if (!session.files().isReadable(path))
-        return "cannot be tested";
-    return verdictOf(session.archiveTester().run("/usr/bin/unzip -tqq " + path));
-}
-
-// Prints the archive's verdict.
-void checkArchive(Session& session, const std::string& path) {
-    const std::string name = paths::nameOf(path);
-    const std::string verdict = verdictOn(session, path);
-    const JsonFields fields = {{"archive", name}, {"verdict", verdict}};
-    if (session.arguments().dryRun)
-        return;
-    if (verdict == "good") {
-        session.output().result(name + ": " + verdict, fields);
-        return;
-    }
-    session.output().problem(name + ": " + verdict, fields);
-    session.feedback().noteProblem();
-}
-
 }  // namespace
 
 ExitStatus listSafeguard(Session& session, const std::vector<std::string>&) {
@@ -183,17 +112,6 @@ ExitStatus listSafeguard(Session& session, const std::vector<std::string>&) {
         return unreadable(session);
     showTotal(session, things, total);
     return AllDone;
-}
-
-ExitStatus checkArchives(Session& session, const std::vector<std::string>& words) {
-    const bool readable = isReadable(session);
-    const auto archives = archivesOf(session, words);
-    const auto work = [&] {
-        for (const std::string& archive : archives)
-            checkArchive(session, archive);
-    };
-    const ExitStatus status = session.perform({.work = work});
-    return readable ? status : unreadable(session);
 }
 
 ExitStatus showStorage(Session& session, const std::vector<std::string>&) {

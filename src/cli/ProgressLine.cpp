@@ -8,6 +8,7 @@
 #include <cstring>
 
 #include "core/WriteAll.h"
+#include "options/SizeFormatters.h"
 
 namespace tarnwick {
 
@@ -33,6 +34,17 @@ std::string minutesAndSeconds(std::chrono::seconds elapsed) {
            std::to_string(seconds);
 }
 
+std::string shareText(const Progress& progress, std::chrono::seconds elapsed) {
+    std::string text = " " + std::to_string(100 * progress.bytesDone / progress.bytes) + " %";
+    const auto seconds = static_cast<std::uint64_t>(elapsed.count());
+    if (seconds == 0 || progress.bytesDone < seconds)
+        return text;
+    const std::uint64_t speed = progress.bytesDone / seconds;
+    const std::uint64_t left = (progress.bytes - progress.bytesDone) / speed;
+    return text + ", " + memoryFormatterDouble(static_cast<double>(speed)) + "/s, " +
+           minutesAndSeconds(std::chrono::seconds(left)) + " left,";
+}
+
 }  // namespace
 
 std::string progressText(const Progress& progress, std::chrono::seconds elapsed,
@@ -41,6 +53,8 @@ std::string progressText(const Progress& progress, std::chrono::seconds elapsed,
     if (!progress.item.empty())
         text += " " + progress.item + " (" + std::to_string(progress.place) + "/" +
                 std::to_string(progress.count) + ")";
+    if (progress.bytes > 0)
+        text += shareText(progress, elapsed);
     text += " " + minutesAndSeconds(elapsed);
     return text.substr(0, std::min(text.size(), width > 0 ? width - 1 : 0));
 }
@@ -72,6 +86,12 @@ void ProgressLine::setItem(const std::string& item, std::size_t place, std::size
     progress_.place = place;
     progress_.count = count;
     draw();
+}
+
+void ProgressLine::setBytes(std::uint64_t done, std::uint64_t total) {
+    const std::scoped_lock lock(mutex_);
+    progress_.bytesDone = done;
+    progress_.bytes = total;
 }
 
 void ProgressLine::without(const std::function<void()>& writeOther) {

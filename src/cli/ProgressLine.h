@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <cstdint>
 #include <functional>
 #include <mutex>
 #include <string>
@@ -9,13 +10,16 @@
 
 namespace tarnwick {
 
-// The text of the line: the label, the item with its place among all, and the time since the start,
-// cut to the width in columns.
+// The text of the line: the label, the item with its place among all, the share of the bytes that
+// is done with its speed and the time that the rest will take, and the time since the start; cut to
+// the width in columns.
 struct Progress {
     std::string label;
     std::string item = {};
     std::size_t place = 0;
     std::size_t count = 0;
+    std::uint64_t bytesDone = 0;
+    std::uint64_t bytes = 0;  // 0 if they are not counted
 };
 std::string progressText(const Progress& progress, std::chrono::seconds elapsed, std::size_t width);
 
@@ -31,6 +35,8 @@ public:
 
     void start(const std::string& label);
     void setItem(const std::string& item, std::size_t place, std::size_t count);
+    // Shown when the line is drawn next, as this may be called often.
+    void setBytes(std::uint64_t done, std::uint64_t total);
     // Erases the line while other text is written; it comes back within a second unless stopped.
     void without(const std::function<void()>& writeOther);
     void stop();

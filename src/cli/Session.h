@@ -35,7 +35,8 @@ struct World {
     std::string logPath;  // of a run that goes on when its terminal hangs up
     std::string mailerProgram;
     std::function<SupervisedRun(const SupervisedWork& supervised)> supervise;
-    std::string root = {};  // where the device's paths begin
+    std::string root = {};           // where the device's paths begin
+    std::string workingFolder = {};  // of the caller, where the paths of files begin
 };
 
 inline constexpr const char* lostResultText = "the results cannot be written";

@@ -46,6 +46,9 @@ public:
     void hideHud() override;
     void show(const Alert& alert) override;
     void working(const BackupItem& item) override;
+    // Writes other text while the line of the task is shown.
+    void without(const std::function<void()>& write) { line_.without(write); }
+    void transferred(std::uint64_t bytes, std::uint64_t total) { line_.setBytes(bytes, total); }
 
     // What follows concerns the thing of this word; none if it is empty.
     void begin(const std::string& word);

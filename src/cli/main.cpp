@@ -1,8 +1,10 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <filesystem>
 
 #include "cli/CommandLine.h"
+#include "cli/WithArchives.h"
 #include "core/CommandEnvironment.h"
 #include "core/SystemCommandRunner.h"
 #include "core/SystemFileManager.h"
@@ -11,9 +13,12 @@
 using namespace tarnwick;
 
 int main(int count, char** values) {
+    const Arguments arguments = parseArguments({values + 1, values + count});
+    becomeProgramWithArchives(arguments, values);
+    std::error_code noFolder;
+    const std::string folder = std::filesystem::current_path(noFolder).string();
     if (!prepareForCommands())
         return WrongUsage;
-    const Arguments arguments = parseArguments({values + 1, values + count});
     const Streams streams = separateStreams();
     if (streams.input < 0 || streams.results < 0 || streams.problems < 0) {
         std::fputs("tarnwick: too few files may be open\n", stderr);
@@ -33,6 +38,7 @@ int main(int count, char** values) {
         .logPath = runLogPath,
         .mailerProgram = systemMailer,
         .supervise = supervise,
+        .workingFolder = folder,
     };
     return runCommandLine(arguments, world);
 }

@@ -89,7 +89,8 @@ TEST(CommandLine, WhatChangesTheDeviceNeedsRootAndNoOtherRun) {
     }
     tarnwick.isRoot = false;
     tarnwick.folder.putEveryArchive();
-    for (const char* words : {"list", "check", "faq", "save all --dry-run", "storage"})
+    for (const char* words :
+         {"list", "check --archives-only", "faq", "save all --dry-run", "storage"})
         EXPECT_EQ(tarnwick(words), AllDone) << words;
     EXPECT_EQ(tarnwick.results(), "Total: 64.00 GB\nFree: 12.50 GB\n");
 }
@@ -278,19 +279,19 @@ TEST(CommandLine, WhatWasNotSavedOrPutBackIsTold) {
 
 TEST(CommandLine, CheckNamesEachArchive) {
     CommandLineRun tarnwick;
-    EXPECT_EQ(tarnwick("check"), NotAllDone);
+    EXPECT_EQ(tarnwick("check --archives-only"), NotAllDone);
     EXPECT_TRUE(tarnwick.problems().starts_with("Preferences.zip: missing\nAccounts.zip: "));
     tarnwick.folder.put(library + "Notes.zip", "zip");
-    EXPECT_EQ(tarnwick("check notes"), AllDone);
+    EXPECT_EQ(tarnwick("check --archives-only notes"), AllDone);
     EXPECT_EQ(tarnwick.results(), "Notes.zip: good\n");
     EXPECT_EQ(tarnwick.diary.changes(),
               Entries{"run: /usr/bin/unzip -tqq " + library + "Notes.zip"});
     tarnwick.runner.status = 3 << 8;
-    EXPECT_EQ(tarnwick("check notes photos"), NotAllDone);
+    EXPECT_EQ(tarnwick("check notes photos --archives-only"), NotAllDone);
     EXPECT_EQ(tarnwick.problems(),
               "Notes.zip: damaged\nDCIM.zip: missing\nPhotoData.zip: missing\n");
     tarnwick.runner.status = 127 << 8;
-    EXPECT_EQ(tarnwick("check notes"), NotAllDone);
+    EXPECT_EQ(tarnwick("check --archives-only notes"), NotAllDone);
     EXPECT_EQ(tarnwick.problems(), "Notes.zip: cannot be tested\n");
 }
 

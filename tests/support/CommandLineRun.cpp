@@ -42,7 +42,8 @@ int CommandLineRun::operator()(const std::string& words) {
     for (std::string word; stream >> word;)
         typed.push_back(word);
     const World world = {
-        .streams = {terminal.value_or(input_), results_, terminal.value_or(problems_)},
+        .streams = {input.value_or(terminal.value_or(input_)), results_,
+                    terminal.value_or(problems_)},
         .runner = runner,
         .files = files,
         .guard = guard,
@@ -58,6 +59,7 @@ int CommandLineRun::operator()(const std::string& words) {
                 return SupervisedRun{end};
             },
         .root = folder.path(),
+        .workingFolder = folder.path(),
     };
     return runCommandLine(parseArguments(typed), world);
 }

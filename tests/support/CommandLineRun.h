@@ -35,6 +35,7 @@ public:
     std::string mailerProgram = folder.path() + "/sendmail";
     // Stands for the input and for what is shown of problems and questions, if there is one.
     std::optional<int> terminal;
+    std::optional<int> input;  // read instead
     // How supervised work ends; by default it runs in place.
     SupervisedRun::End end = SupervisedRun::End::Finished;
     bool isHungUp = false;
