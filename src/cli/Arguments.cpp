@@ -149,7 +149,7 @@ Arguments parseArguments(const std::vector<std::string>& typed) {
                                    typed.end());
             return arguments;
         }
-        if (word.starts_with("-")) {
+        if (word.starts_with("-") && word != "-") {
             const bool isLast = index + 1 == typed.size();
             index += takeOption(arguments, word, isLast ? std::string() : typed[index + 1]);
         } else {
