@@ -1,6 +1,7 @@
 #include "cli/CommandLine.h"
 
 #include <algorithm>
+#include <cerrno>
 
 #include "cli/CommandTable.h"
 #include "cli/Commands.h"
@@ -54,7 +55,9 @@ ExitStatus runLocked(Session& session, const Command& command,
         session.output().complaint("another run is under way");
         return RunUnderWay;
     }
-    if (lock.state() == RunLock::State::Unavailable) {
+    // On a device that can only be read, nothing changes while it is read.
+    const bool isSafe = command.reach == Reach::Reads && lock.error() == EROFS;
+    if (lock.state() == RunLock::State::Unavailable && !isSafe) {
         session.output().complaint("cannot tell whether another run is under way: " +
                                    failureText(session.world().lockPath, "opened", lock.error()));
         return NotAllDone;
@@ -76,8 +79,8 @@ void mentionLeftRun(Session& session) {
 }
 
 // A rehearsal changes nothing, nor does the look at a copy, which may be done on any machine.
-bool changesSomething(const Command& command, const Arguments& arguments) {
-    return command.reach == Reach::Changes && !arguments.dryRun && !arguments.verify;
+bool needsLock(const Command& command, const Arguments& arguments) {
+    return command.reach != Reach::Looks && !arguments.dryRun && !arguments.verify;
 }
 
 ExitStatus runCommand(Session& session, const Command& command,
@@ -87,7 +90,7 @@ ExitStatus runCommand(Session& session, const Command& command,
     if (const auto fault = faultOf(command, words))
         return wrongUsage(session, *fault);
     mentionLeftRun(session);
-    if (changesSomething(command, session.arguments()))
+    if (needsLock(command, session.arguments()))
         return runLocked(session, command, words);
     return command.run(session, words);
 }

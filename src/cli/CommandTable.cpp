@@ -143,7 +143,7 @@ std::vector<Command> commandTable(const ItemCatalogue& catalogue) {
         {.name = "export",
          .synopsis = "[FILE]",
          .purpose = "write the safeguard folder as one stream, to be kept elsewhere",
-         .reach = Reach::Changes,
+         .reach = Reach::Reads,
          .program = Program::WithArchives,
          .takesFile = true,
          .mostWords = 1,

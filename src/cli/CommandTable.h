@@ -13,6 +13,7 @@ namespace tarnwick {
 
 enum class Reach {
     Looks,   // for everybody, at any time
+    Reads,   // needs root, and that no other run changes anything meanwhile
     Changes  // needs root, and that no other run is under way
 };
 

@@ -2,7 +2,6 @@
 
 #include <unistd.h>
 
-#include <algorithm>
 #include <filesystem>
 
 #include "cli/CommandTable.h"
@@ -17,13 +16,11 @@ std::string programWithArchives() {
 }
 
 void becomeProgramWithArchives(const Arguments& arguments, char** values) {
-    const bool isIts =
-        std::ranges::any_of(commandTable(ItemCatalogue()), [&](const Command& command) {
-            return command.program == Program::WithArchives && !arguments.words.empty() &&
-                   command.name == arguments.words.front();
-        });
-    if (isIts)
-        ::execv(programWithArchives().c_str(), values);
+    if (arguments.words.empty())
+        return;
+    for (const Command& command : commandTable(ItemCatalogue()))
+        if (command.name == arguments.words.front() && command.program == Program::WithArchives)
+            ::execv(programWithArchives().c_str(), values);
 }
 
 }  // namespace tarnwick

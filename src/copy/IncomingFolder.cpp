@@ -7,6 +7,7 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <utility>
 
@@ -57,6 +58,9 @@ IncomingFolder::~IncomingFolder() {
 }
 
 CopySink::Fault IncomingFolder::failure(const std::string& what) const {
+    // Not what it means of files that are read.
+    if (errno == EFBIG)
+        return what + " cannot be written: " + std::strerror(EFBIG);
     return failureText(what, "written", errno);
 }
 

@@ -64,6 +64,25 @@ row() {
     ((lost + spoilt + emptied + failed + strays == 0))
 }
 
+# The same, of imports of two copies in turns: whenever it ends, one of the two is in place.
+safeguard_sum() { (cd "$safe" && find . -type f -exec sha256sum {} + | sort | sha256sum); }
+import_row() {
+    local run mixed=0 failed=0 strays=0 time
+    for ((time = 0; time < times; time++)); do
+        tarnwick import "/run/copy$((time % 2))" >/dev/null 2>&1 & run=$!
+        sleep "$(printf '%d.%06d' 0 "$((RANDOM * duration / 32768))")"
+        "$2" "$run" 2>/dev/null
+        wait "$run" 2>/dev/null
+        until has_ended; do sleep 0.01; done
+        [[ ${sums[*]} == *"$(safeguard_sum)"* ]] || ((mixed += 1))
+        tarnwick import "/run/copy$((time % 2))" >/dev/null 2>&1 && [[ $(safeguard_sum) == "${sums[time % 2]}" ]] ||
+            ((failed += 1))
+        [[ ! -e $home/Tarnwick.unfinished ]] || ((strays += 1))
+    done
+    printf '%-16s %5d %5d %20d %7d\n' "$1" "$times" "$mixed" "$failed" "$strays"
+    ((mixed + failed + strays == 0))
+}
+
 make_good >/dev/null
 begin=$(microseconds)
 change_data
@@ -74,4 +93,19 @@ printf '%-16s %5s %5s %7s %14s %20s %7s\n' '' times lost spoilt 'lists emptied' 
 row "kill of all" kill_all
 killed=$?
 row "other signals" signal_one
-exit "$((killed + $?))"
+signalled=$?
+
+tarnwick export /run/copy0
+change_data
+tarnwick save all >/dev/null
+tarnwick export /run/copy1
+sums=("" "$(safeguard_sum)")
+begin=$(microseconds)
+tarnwick import /run/copy0 >/dev/null
+duration=$(($(microseconds) - begin))
+sums[0]=$(safeguard_sum)
+printf 'an import takes %d ms\n%-16s %5s %5s %20s %7s\n' "$((duration / 1000))" '' times mixed 'next run not good' strays
+import_row "kill of all" kill_all
+killed=$((killed + $?))
+import_row "other signals" signal_one
+exit "$((killed + signalled + $?))"

@@ -38,7 +38,8 @@ same_notes() { diff -r "$good/Notes" "$notes"; }
 has_pictures() { [[ -n $(find /var/mobile/Media/DCIM -type f) ]]; }
 no_strays() {
     local strays
-    strays=$(find /var/tmp "$archives" -mindepth 1 ! -name '*.zip'; find "$safe" -name '*.previous' -o -name '*.unfinished')
+    strays=$(find /var/tmp "$archives" -mindepth 1 ! -name '*.zip'; find "$safe" -name '*.previous' -o -name '*.unfinished'
+        find "$home" -maxdepth 1 -name 'Tarnwick.*')
     [[ -z $strays ]] || { echo "strays: $strays"; return 1; }
 }
 # Nobody got what is root's.

@@ -62,14 +62,32 @@ leave_no_inode
 fault "no inode is left: save" : "save sources packages all" 1 "no inodes left" untouched
 leave_no_inode
 fault "no inode is left: restore" : "restore notes" 1 "" 'untouched && same_notes'
-for verb in "save sources" "save packages" "save notes" "restore notes" "remove backups --yes"; do
+for verb in "save sources" "save packages" "save notes" "restore notes" "remove backups --yes" "export /var/copy"; do
     make_read_only
     fault "/var is read-only: $verb" : "$verb" 1 "read-only" 'untouched && same_notes'
 done
-for verb in list check storage "save all --dry-run"; do
+for verb in list check compare storage "save all --dry-run" "export /run/copy"; do
     make_read_only
     fault "/var is read-only: $verb" : "$verb" 0 "" untouched
 done
+
+# Copies of the safeguard folder.
+for left in 0 40 200; do
+    fault "$left KB are left: import" "tarnwick export /run/copy; fill $left" "import /run/copy" 1 "no space left" untouched
+done
+fault "500 KB are left, and a copy needs more" 'tarnwick export /run/copy; fill 500; ulimit -f 20' "import /run/copy" 1 "too large" untouched
+fault "there is no room for a copy" 'fill 100' "export /var/copy" 1 "no space left" 'untouched && [[ ! -e /var/copy ]]'
+for broken in 'truncate -s 200K' 'damage' ': >'; do
+    fault "a copy is broken by $broken" "tarnwick export /run/copy; $broken /run/copy" "import /run/copy" 1 "nothing has changed" untouched
+done
+fault "a copy over a pipe" 'tarnwick export /run/copy; rm -r $safe' "import - </run/copy" 0 "imported" \
+    'untouched'
+fault "a safeguard folder that is a file" 'tarnwick export /run/copy; rm -r $safe; touch $safe' "import /run/copy" 1 "no folder" '[[ -f $safe ]]'
+fault "mobile planted links in the way of a copy" 'tarnwick export /run/copy; for name in unfinished previous; do as mobile ln -s /etc $home/Tarnwick.$name; done' \
+    "import /run/copy" 0 "imported" 'rm -r $home/Tarnwick.previous; untouched'
+fault "a link as a list" 'rm $packages; ln -s /etc/shadow $packages' "export /run/copy" 1 "it is a link" \
+    '! grep root: /run/copy'
+fault "not root: export" 'tarnwick() { as mobile tarnwick "$@"; }' "export /run/copy" 4 "root" untouched
 
 # What stands among the data.
 fault "a dangling link" 'ln -s /nowhere $notes/link' "save notes" 0 "done" kept
@@ -113,6 +131,8 @@ fault "archives are missing" 'rm $archives/{SMS,Notes}.zip' check 1 $'SMS.zip: m
 fault "garbage: save" 'seq 999 >$archives/Notes.zip' "save notes" 0 "done" 'whole_backup && cmp <(seq 999) $archives/Notes.zip.damaged'
 tool unzip missing
 fault "nothing can test archives" : check 1 "cannot be tested" untouched
+tool unzip missing
+fault "nor before they are exported" : "export /run/copy" 1 "cannot be tested" untouched
 fault "one archive spoilt, another restored" ': >$archives/SMS.zip' "restore messages notes" 1 "Notes Restoration: Restoration done !" same_notes
 
 # Scratch, stale or planted.
@@ -186,6 +206,8 @@ list
 list --json
 check
 check --json
+compare --json
+export
 size notes
 storage
 folders

@@ -78,7 +78,7 @@ std::string commandEntries(const ItemCatalogue& catalogue) {
     for (const Command& command : commandTable(catalogue))
         text += entry(usage(command.name, command.synopsis),
                       sentence(command.purpose) + furtherWords(command, items) +
-                          (command.reach == Reach::Changes ? "\nNeeds root." : ""));
+                          (command.reach != Reach::Looks ? "\nNeeds root." : ""));
     return text;
 }
 
