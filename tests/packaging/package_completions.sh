@@ -44,6 +44,10 @@ offers "tarnwick size --verbose ca" calendar call-history
 offers "tarnwick size notes ph" photos
 offers "tarnwick help re" reboot remove respring restore
 offers "tarnwick list "
+touch "$workspace/phone.tarnwick"
+offers "tarnwick import $workspace/ph" "$workspace/phone.tarnwick"
+offers "tarnwick export --verify $workspace/ph" "$workspace/phone.tarnwick"
+offers "tarnwick export copy "
 offers "tarnwick folders C" CydiaPackages CydiaSources
 offers "tarnwick remove " backups sources-list
 offers "tarnwick restore all --then " nothing reboot respring

@@ -22,6 +22,7 @@ same "every file is in its place" "$(
         echo "-rwxr-xr-x root/root /usr/bin/tarnwick"
         echo "-rwxr-xr-x root/root /usr/libexec/tarnwick/RootTarnwick2"
         echo "-rwxr-xr-x root/root /usr/libexec/tarnwick/bin/zip"
+        echo "-rwxr-xr-x root/root /usr/libexec/tarnwick/tarnwick"
         ordinary "applications/$id.desktop" "dbus-1/services/$id.service" "metainfo/$id.metainfo.xml" \
             doc/tarnwick/{changelog.gz,copyright} lintian/overrides/tarnwick man/man1/{RootTarnwick2,tarnwick,tarnwick-zip}.1.gz \
             bash-completion/completions/{RootTarnwick2,tarnwick} fish/vendor_completions.d/{RootTarnwick2,tarnwick}.fish \

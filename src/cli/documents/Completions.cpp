@@ -100,13 +100,22 @@ std::string fishWords(const Command& command) {
            "' -a " + quoted("(__tarnwick_rest " + joined(command.words, " ") + ")");
 }
 
+std::string fishFile(const Command& command) {
+    return "complete -c tarnwick -n '__tarnwick_takes_word " + command.name + " " +
+           std::to_string(command.mostWords) + "' -F";
+}
+
 void addCommands(Fragments& fragments, const ItemCatalogue& catalogue) {
-    Words names, words, counts, options, described, fish;
+    Words names, words, counts, options, described, fish, ofFiles;
     for (const Command& command : commandTable(catalogue)) {
         names.push_back(command.name);
         options.push_back(cell(command.name, joined(optionsOf(command), " ")));
         described.push_back(quoted(command.name + ":" + command.purpose));
         fish.push_back(fishCommand(command));
+        if (command.takesFile) {
+            ofFiles.push_back(command.name);
+            fish.push_back(fishFile(command));
+        }
         if (command.words.empty())
             continue;
         words.push_back(cell(command.name, joined(command.words, " ")));
@@ -114,6 +123,7 @@ void addCommands(Fragments& fragments, const ItemCatalogue& catalogue) {
         fish.push_back(fishWords(command));
     }
     fragments["COMMAND_NAMES"] = joined(names, " ");
+    fragments["FILE_COMMANDS"] = joined(ofFiles, " ");
     fragments["WORDS"] = joined(words, "\n        ");
     fragments["MOST_WORDS"] = joined(counts, " ");
     fragments["KNOWN_OPTIONS"] = joined(options, "\n        ");
