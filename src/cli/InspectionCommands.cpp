@@ -5,6 +5,7 @@
 #include "cli/QuotedName.h"
 #include "cli/SafeguardState.h"
 #include "cli/SavedThings.h"
+#include "cli/Words.h"
 #include "core/JoinedText.h"
 #include "core/SafeguardPaths.h"
 #include "help/HelpTexts.h"
