@@ -156,8 +156,20 @@ TEST(Reveal, AFrontThatIsCaughtWhileItClosesKeepsItsMenu) {
     }
 }
 
+// Has something of its own move along, which no finger stops.
+class Companion : public QObject, public RevealViewControllerDelegate {
+public:
+    void revealControllerAnimateToPosition(Reveal&, RevealPosition position,
+                                           std::vector<Change>& changes) override {
+        changes.push_back({&item, Change::Property::Opacity, static_cast<int>(position) / 10.0});
+    }
+    QQuickItem item;
+};
+
 TEST(Reveal, AFrontThatIsCaughtWhileItIsRemovedHasItsChildAgain) {
     RevealScreen screen;
+    Companion companion;
+    screen.reveal->setDelegate(&companion);
     screen.reveal->setFrontViewPosition(FrontPositionSlidRightRemoved, Animated::Yes);
     screen.clock.advance(0.1);
     screen.finger.press({350, 300});
