@@ -181,7 +181,7 @@ TEST(Reveal, AFrontThatIsCaughtWhileItIsRemovedHasItsChildAgain) {
 }
 
 TEST(Reveal, AHardFlickShowsNothingBeyondTheEnds) {
-    RevealScreen screen;
+    RevealScreen screen(true);
     for (const double expected : {260.0, 0.0}) {
         const bool opens = expected > 0;
         const int way = opens ? 240 : -240;

@@ -61,7 +61,7 @@ struct RevealLimits {
     double least;
     double most;
 };
-// Of the front view: no further than there is something to reveal.
+// Of the front view: no further than there are views to reveal.
 RevealLimits frontLimits(const RevealGeometry& geometry, bool hasRear, bool hasRight);
 RevealLimits rearLimits(const RevealGeometry& geometry);
 RevealLimits rightLimits(const RevealGeometry& geometry);

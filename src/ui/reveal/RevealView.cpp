@@ -84,8 +84,7 @@ std::vector<Change> RevealView::changesFor(double x) const {
 std::vector<Change> RevealView::changesOfAll(double x) const {
     std::vector<Change> changes = changesFor(x);
     addFrame(changes, frontView(), frontFrame(x),
-             frontLimits(geometry(), controller_->rearViewController() != nullptr,
-                         controller_->rightViewController() != nullptr));
+             frontLimits(geometry(), rearView() != nullptr, rightView() != nullptr));
     return changes;
 }
 
