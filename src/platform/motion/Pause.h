@@ -9,7 +9,8 @@ namespace tarnwick {
 // Timers on the animation clock, so that a test that advances that clock advances them too. Main
 // thread.
 
-// A one-shot timer. Starting it again drops the pending task. The task may delete it later.
+// A one-shot timer. Starting it again drops the pending task. The task may call deleteLater() on
+// it.
 class Pause : public QObject {
     Q_OBJECT
 

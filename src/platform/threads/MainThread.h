@@ -18,7 +18,8 @@ void performLaterOnMainThread(QObject* owner, std::function<void()> task);
 // Runs the task at once on the main thread; on other threads posts it without waiting.
 void performOnMainThread(QObject* owner, std::function<void()> task);
 
-// The same for a task with an object of the main thread that may be gone by then, or already.
+// The same for a task that needs an object of the main thread; dropped if the object has been
+// deleted by then.
 template <class Object>
 void performLaterOnMainThread(const QPointer<Object>& object,
                               std::function<void(std::type_identity_t<Object>&)> task) {

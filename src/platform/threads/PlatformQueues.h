@@ -19,7 +19,7 @@ public:
     PlatformQueues();
     ~PlatformQueues() override;
 
-    // Those of the program: the ones that exist, which must be one. Main thread.
+    // The one instance that the program has created. Main thread.
     static PlatformQueues& ofApplication();
 
     void runInBackground(Task task) override;

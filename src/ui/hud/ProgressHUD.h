@@ -50,18 +50,17 @@ public:
     // Not once the HUD has been hidden otherwise.
     void hideAfterDelay(Animated animated, double delay);
 
-    // Shows the HUD, runs the method on a new thread, and hides the HUD when it returns. Until then
-    // a HUD that would be deleted, with its view or because it was hidden, lives on out of sight.
+    // Shows the HUD, runs the method on a new thread of the program's queues, and hides the HUD
+    // when it returns. The method may use the HUD: if the HUD is hidden or its view deleted
+    // meanwhile, it is deleted only when the method has returned.
     void showWhileExecuting(Block method, Animated animated);
-    // The same on the global queue of the given queues, the program's if there are none. What is
-    // still running is waited for when the queues end.
+    // The same on the global queue of the given queues, by default the program's.
     void showAnimatedWhileExecutingBlock(Animated animated, Block block,
                                          TaskQueues* queues = nullptr, Block completion = {});
 
-    // The properties' one: of the box.
+    // The property, which is the box's opacity. That of the whole HUD is its alpha: 0 while hidden.
     using ProgressHUDProperties::opacity;
     using ProgressHUDProperties::setOpacity;
-    // Of the HUD with all that is in it: 0 while it is hidden.
     double alpha() const { return QQuickItem::opacity(); }
 
     // The current indicator; none in text-only mode.
@@ -103,7 +102,7 @@ private:
 
     Animated useAnimation_ = Animated::No;
     bool finished_ = false;
-    int showing_ = 0;  // counts up when it is hidden
+    int showing_ = 0;  // incremented each time the HUD is hidden
     std::unique_ptr<Cover> cover_;
     std::unique_ptr<QObject> parentFollower_;  // has the connections to the parent item
     Pause* graceTimer_;

@@ -25,11 +25,11 @@ public:
     virtual void hudWasHidden(ProgressHUD* /*hud*/) {}
 };
 
-// The properties of a HUD. They may be read and set on any thread as long as the HUD lives; what
-// there is to see of a change follows on the main thread, at once there and without waiting
-// elsewhere. A thread that may outlive the HUD hands its changes over by
-// performLaterOnMainThread(). Lengths in points, times in seconds; a value out of its range is
-// drawn as the nearest in it.
+// The properties of a HUD. Any thread may read and set them while the HUD lives. The views follow
+// on the main thread: at once if the change was made there, otherwise later, without waiting. A
+// thread that may outlive the HUD hands its changes over with performLaterOnMainThread() and a
+// QPointer. Lengths in points, times in seconds; a value out of its range is drawn as the nearest
+// in it.
 class ProgressHUDProperties {
 public:
     using Mode = HUDMode;
@@ -68,8 +68,7 @@ public:
         set(&Values::detailsLabelColor, color, Effect::Looks);
     }
 
-    // The box's, and not that of the HUD with all that is in it. Without effect if there is a
-    // colour.
+    // Of the black box; without effect if a colour is set.
     double opacity() const { return get(&Values::opacity); }
     void setOpacity(double opacity) { set(&Values::opacity, opacity, Effect::Looks); }
     QColor color() const { return get(&Values::color); }  // invalid: black
@@ -161,7 +160,7 @@ private:
         const std::lock_guard lock(guard_);
         return values_.*property;
     }
-    // The former value goes after the lock, as it may take other things with it.
+    // The former value is destroyed outside the lock: what it holds may use the properties.
     template <class Value>
     void set(Value Values::*property, std::type_identity_t<Value> value,
              Effect effect = Effect::Nothing) {
