@@ -28,7 +28,8 @@ std::int64_t treeSize(const fs::path& tree) {
     std::error_code error;
     if (!fs::is_directory(fs::symlink_status(tree, error)))
         return bytes;
-    fs::recursive_directory_iterator entry(tree, error);
+    fs::recursive_directory_iterator entry(tree, fs::directory_options::skip_permission_denied,
+                                           error);
     for (; !error && entry != fs::recursive_directory_iterator(); entry.increment(error))
         bytes += diskSize(entry->path());
     return bytes;
@@ -36,7 +37,8 @@ std::int64_t treeSize(const fs::path& tree) {
 
 // What is not there yet will be where its folder is.
 std::string existingPart(std::string path) {
-    while (path.size() > 1 && !fs::exists(path))
+    std::error_code unknown;
+    while (path.size() > 1 && !fs::exists(path, unknown))
         path = fs::path(path).parent_path();
     return path;
 }
