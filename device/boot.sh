@@ -7,8 +7,8 @@ DEVICE_SHARE=${DEVICE_SHARE:+$(realpath -- "$DEVICE_SHARE")}
 export DEVICE_BUILD DEVICE_SHARE
 
 require_model_library() {
-    [[ ! -e $1/model || -e $DEVICE_BUILD/lib/device-model.so ]] ||
-        fail "$1 has a model name, which needs $DEVICE_BUILD/lib/device-model.so: build the target device-model"
+    [[ ! -e $1/model ]] || compgen -G "$DEVICE_BUILD/lib/*/device-model.so" >/dev/null ||
+        fail "$1 has a model name, which needs device-model.so in $DEVICE_BUILD/lib: build the target device-model"
 }
 
 # run_device DIRECTORY USER [COMMAND...]: does not return.

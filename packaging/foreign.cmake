@@ -1,8 +1,8 @@
 # Builds with Debian's cross compiler for TARNWICK_ARCHITECTURE, an architecture that dpkg knows, against its libraries.
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES TARNWICK_ARCHITECTURE)
 foreach(name GNU_TYPE GNU_CPU MULTIARCH)
-    execute_process(COMMAND dpkg-architecture --host-arch ${TARNWICK_ARCHITECTURE} --query DEB_HOST_${name}
-        OUTPUT_VARIABLE ${name} OUTPUT_STRIP_TRAILING_WHITESPACE ERROR_QUIET COMMAND_ERROR_IS_FATAL ANY)
+    execute_process(COMMAND dpkg-architecture --target-arch ${TARNWICK_ARCHITECTURE} --query DEB_TARGET_${name}
+        OUTPUT_VARIABLE ${name} OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 endforeach()
 
 set(CMAKE_SYSTEM_NAME Linux)
