@@ -3,6 +3,7 @@
 
 #include "support/TemporaryFolder.h"
 #include "zip/CompressedFiles.h"
+#include "zip/Report.h"
 
 namespace tarnwick::testing {
 namespace {
