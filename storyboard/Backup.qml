@@ -1,16 +1,18 @@
 import QtQuick
 
 Page {
+    mostColumns: 2
+
     component BackupButton: ItemButton { symbol: "backup" }
 
     Steps { current: "backup" }
     Tagline { objectName: "mainBackup" }
 
-    SectionHeading { objectName: "cydiaAndPackagesTitle"; text: "Cydia and Packages" }
+    SectionHeading { label: "cydiaAndPackagesTitle"; text: "Cydia and Packages" }
     BackupButton { objectName: "sourcesButton"; text: "Cydia Sources"; actionName: "saveSources" }
     BackupButton { objectName: "packagesButton"; text: "Cydia Packages"; actionName: "savePackages" }
 
-    SectionHeading { objectName: "stockApplicationsTitle"; text: "Stock Applications" }
+    SectionHeading { label: "stockApplicationsTitle"; text: "Stock Applications" }
     BackupButton { objectName: "allInOneButton"; text: "All in One"; actionName: "saveAllInOne" }
     BackupButton { objectName: "tweaksPrefButton"; text: "Tweaks' Preferences"; actionName: "saveTweaksPrefs" }
     BackupButton { objectName: "accountsButton"; text: "Accounts"; actionName: "saveAccounts" }

@@ -6,13 +6,10 @@ Page {
 
     Steps { current: "cloud" }
 
-    Text {
+    WrappedText {
         width: parent.width
         text: "Keep a copy elsewhere"
-        textFormat: Text.PlainText
-        wrapMode: Text.Wrap
         horizontalAlignment: Text.AlignHCenter
-        color: "#111820"
         font { pixelSize: Math.round(Look.headline * 1.2); bold: true }
 
         Accessible.role: Accessible.Heading

@@ -2,23 +2,18 @@ import QtQuick
 import Tarnwick
 
 Page {
-    component Question: Text {
+    component Question: WrappedText {
         width: parent.width
-        topPadding: 10
-        textFormat: Text.PlainText
-        wrapMode: Text.Wrap
-        color: Look.tint
+        topPadding: 12
+        color: Look.link
         font { pixelSize: Look.headline - 1; bold: true }
 
         Accessible.role: Accessible.Heading
         Accessible.name: text
     }
-    component Reply: Text {
+    component Reply: WrappedText {
         width: parent.width
-        textFormat: Text.PlainText
-        wrapMode: Text.Wrap
         lineHeight: 1.15
-        color: "#222b36"
         font.pixelSize: Look.callout
 
         Accessible.role: Accessible.StaticText

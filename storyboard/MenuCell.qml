@@ -13,9 +13,9 @@ BareButton {
     readonly property int graySelection: 2
 
     width: parent?.width ?? 0
-    height: 54
+    height: 30 + Math.round(24 * Look.textScale)
     leftPadding: 20
-    rightPadding: 20
+    rightPadding: 12
     spacing: 16
     font.pixelSize: Look.headline
     segueName: reuseIdentifier
@@ -26,15 +26,15 @@ BareButton {
             id: icon
 
             anchors.verticalCenter: parent.verticalCenter
+            width: Math.round(24 * Look.textScale)
+            height: width
             name: cell.symbol
             color: "#cfe2ff"
         }
 
-        Text {
+        WrappedText {
             anchors { left: icon.right; leftMargin: cell.spacing; right: mark.left; verticalCenter: parent.verticalCenter }
             text: cell.text
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
             color: "white"
             font: cell.font
         }
@@ -60,7 +60,7 @@ BareButton {
     }
 
     background: Rectangle {
-        visible: cell.pressed && cell.selectionStyle === cell.graySelection
-        color: Qt.rgba(1, 1, 1, 0.22)
+        visible: cell.selectionStyle === cell.graySelection
+        color: Qt.rgba(1, 1, 1, cell.pressed ? 0.22 : cell.hovered ? 0.08 : 0)
     }
 }

@@ -2,6 +2,11 @@ import QtQuick
 import Tarnwick
 
 Page {
+    mostColumns: 2
+
+    component Figures: Column {
+        width: (parent as PageFlow)?.columnWidth ?? 0
+    }
     // A caption and the figure that belongs to it.
     component Figure: Item {
         property alias caption: name.text
@@ -18,8 +23,8 @@ Page {
 
             anchors.verticalCenter: parent.verticalCenter
             textFormat: Text.PlainText
-            color: "#4a5563"
-            font.pixelSize: Look.callout
+            color: Look.quietText
+            font { family: Look.family; pixelSize: Look.callout }
         }
 
         Text {
@@ -28,24 +33,26 @@ Page {
             anchors { right: parent.right; verticalCenter: parent.verticalCenter }
             text: "\u2026"
             textFormat: Text.PlainText
-            color: "#111820"
-            font { pixelSize: Look.callout; bold: true }
+            color: Look.text
+            font { family: Look.family; pixelSize: Look.callout; bold: true }
         }
     }
 
     Tagline { objectName: "mainOptions" }
 
-    SectionHeading { objectName: "applicationFilesAndFoldersTitle"; text: "Application Files and Folders" }
+    SectionHeading { label: "applicationFilesAndFoldersTitle"; text: "Application Files and Folders" }
     ScreenButton { objectName: "recreateApplicationFoldersButton"; text: "Create Application Folders"; actionName: "recreateApplicationFolders" }
     ScreenButton { objectName: "removeSafeguardButton"; text: "Remove Backup Folders"; actionName: "removeSafeguard" }
     ScreenButton { objectName: "removeSourcesListButton"; text: "Remove TWKSources"; actionName: "removeSourcesList" }
 
-    SectionHeading { objectName: "applyChangesOptionsTitle"; text: "Apply Changes" }
+    SectionHeading { label: "applyChangesOptionsTitle"; text: "Apply Changes" }
     ScreenButton { objectName: "respringButton"; text: "Respring"; actionName: "respring" }
     ScreenButton { objectName: "rebootButton"; text: "Reboot"; actionName: "reboot" }
 
-    SectionHeading { objectName: "miscellaneousTitle"; text: "Miscellaneous" }
-    Figure { caption: "Total Space"; figure: "totalUserMemory" }
-    Figure { caption: "Free Space"; figure: "freeUserMemory" }
+    SectionHeading { label: "miscellaneousTitle"; text: "Miscellaneous" }
+    Figures {
+        Figure { caption: "Total Space"; figure: "totalUserMemory" }
+        Figure { caption: "Free Space"; figure: "freeUserMemory" }
+    }
     ScreenButton { objectName: "backupSizeButton"; text: "Backup Size"; actionName: "backupSize" }
 }

@@ -1,7 +1,8 @@
 import QtQuick
 import Tarnwick
 
-// A front screen: a column that scrolls, in the middle of wide screens.
+// A front screen: content that scrolls, from the top down in the middle of wide screens. Where
+// there is room, it stands in columns: buttons are read from the left to the right then.
 Rectangle {
     id: page
 
@@ -10,13 +11,16 @@ Rectangle {
         title: "Menu"
         symbol: "menu"
     }
-    property alias spacing: column.spacing
-    default property alias content: column.data
+    property int mostColumns: 1
+    property alias spacing: flow.spacing
+    default property alias content: flow.data
 
     readonly property int margin: 16
     readonly property int widestColumn: 560
+    readonly property int widestColumns: 800
+    readonly property int leastWidthForColumns: 700
 
-    color: "#f4f5f7"
+    color: Look.screen
 
     Flickable {
         id: flickable
@@ -32,15 +36,15 @@ Rectangle {
             id: contentView
 
             objectName: "contentView"
-            height: column.height + 2 * page.margin
+            height: flow.height + 2 * page.margin
 
-            Column {
-                id: column
+            PageFlow {
+                id: flow
 
+                columns: page.width < page.leastWidthForColumns ? 1 : page.mostColumns
                 x: Math.round((contentView.width - width) / 2)
                 y: page.margin
-                width: Math.min(contentView.width - 2 * page.margin, page.widestColumn)
-                spacing: 10
+                width: Math.min(contentView.width - 2 * page.margin, columns > 1 ? page.widestColumns : page.widestColumn)
             }
         }
     }

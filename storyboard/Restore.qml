@@ -1,16 +1,18 @@
 import QtQuick
 
 Page {
+    mostColumns: 2
+
     component RestoreButton: ItemButton { symbol: "restore" }
 
     Steps { current: "restore" }
     Tagline { objectName: "mainRestore" }
 
-    SectionHeading { objectName: "cydiaAndPackagesTitle"; text: "Cydia and Packages" }
+    SectionHeading { label: "cydiaAndPackagesTitle"; text: "Cydia and Packages" }
     RestoreButton { objectName: "sourcesButton"; text: "Cydia Sources"; actionName: "restoreSources" }
     RestoreButton { objectName: "packagesButton"; text: "Cydia Packages"; actionName: "restorePackages" }
 
-    SectionHeading { objectName: "stockApplicationsTitle"; text: "Stock Applications" }
+    SectionHeading { label: "stockApplicationsTitle"; text: "Stock Applications" }
     RestoreButton { objectName: "allInOneButton"; text: "All in One"; actionName: "restoreAllInOne" }
     RestoreButton { objectName: "tweaksPrefButton"; text: "Tweaks' Preferences"; actionName: "restoreTweaksPrefs" }
     RestoreButton { objectName: "accountsButton"; text: "Accounts"; actionName: "restoreAccounts" }

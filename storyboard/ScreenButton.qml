@@ -1,17 +1,17 @@
 import QtQuick
 import Tarnwick
 
-// A button as wide as its column; it is filled by its controller.
+// A button as wide as a column; it is filled by its controller.
 PushButton {
     id: button
 
-    width: parent.width
+    width: (parent as PageFlow)?.columnWidth ?? 0
     background: null
 
     Rectangle {
         anchors.fill: parent
-        visible: button.pressed
+        z: -0.5  // over the fill
         radius: 5
-        color: Qt.rgba(0, 0, 0, 0.2)
+        color: button.shade
     }
 }

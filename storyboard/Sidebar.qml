@@ -4,6 +4,9 @@ import Tarnwick
 Rectangle {
     id: sidebar
 
+    // Points at the right that the front screen uncovers only while it is dragged too far.
+    readonly property int neverSeen: 60
+
     color: "#1d2733"
 
     Flickable {
@@ -20,7 +23,7 @@ Rectangle {
             id: rows
 
             objectName: "rows"
-            width: parent.width
+            width: flickable.width - sidebar.neverSeen
         }
     }
 
@@ -33,12 +36,14 @@ Rectangle {
             property int selectionStyle: 0
 
             width: parent?.width ?? 0
-            height: 84
+            height: 60 + Math.round(24 * Look.textScale)
 
             SymbolView {
                 id: shield
 
                 x: 20
+                width: Math.round(24 * Look.textScale)
+                height: width
                 anchors { bottom: parent.bottom; bottomMargin: 18 }
                 name: "shield"
                 color: "#4da3ff"
@@ -48,7 +53,7 @@ Rectangle {
                 anchors { left: shield.right; leftMargin: 16; verticalCenter: shield.verticalCenter }
                 text: "Tarnwick"
                 color: "white"
-                font { pixelSize: Look.headline + 5; bold: true }
+                font { family: Look.family; pixelSize: Look.headline + 5; bold: true }
 
                 Accessible.role: Accessible.Heading
                 Accessible.name: text

@@ -23,6 +23,7 @@ struct Alert {
     std::vector<std::string> otherButtonTitles;  // button indexes from 1
     int tag = 0;                                 // identifies the alert to whoever made it
     AlertKind kind = AlertKind::Result;
+    int destructiveButton = 0;  // the index of the one that takes something away; 0 if none does
 };
 
 inline constexpr int anyOtherButton = -1;

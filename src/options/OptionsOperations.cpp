@@ -198,6 +198,11 @@ void OptionsOperations::backupSizeCalculation(const std::vector<std::string>& pa
                "The \"" + name + "\" backup size is : " + memoryFormatterDouble(bytes));
 }
 
+// Only what removes something takes something away.
+bool OptionsOperations::isDestructive(Tag tag) {
+    return tag == RemoveSafeguardTag || tag == RemoveSourcesListTag;
+}
+
 void OptionsOperations::ask(Tag tag, const std::string& title, const std::string& message,
                             const std::vector<std::string>& buttons,
                             const std::string& cancelButton) {
@@ -206,7 +211,8 @@ void OptionsOperations::ask(Tag tag, const std::string& title, const std::string
                     .cancelButtonTitle = cancelButton,
                     .otherButtonTitles = buttons,
                     .tag = tag,
-                    .kind = AlertKind::Question});
+                    .kind = AlertKind::Question,
+                    .destructiveButton = isDestructive(tag) ? 1 : 0});
 }
 
 void OptionsOperations::showResult(const std::string& title, const std::string& message) {

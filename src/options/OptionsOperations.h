@@ -75,6 +75,7 @@ private:
     void startSizeCheck(int buttonIndex);
     void checkSize(const BackupItem& item);
     void measureTemporaryArchives(const BackupItem& item);
+    static bool isDestructive(Tag tag);
     void ask(Tag tag, const std::string& title, const std::string& message,
              const std::vector<std::string>& buttons, const std::string& cancelButton = "Cancel");
     void showResult(const std::string& title, const std::string& message);

@@ -130,7 +130,8 @@ void RestoreOperations::restoreAllInOne() {
                     .cancelButtonTitle = "Cancel",
                     .otherButtonTitles = {"Yes"},
                     .tag = AllInOneConfirmationTag,
-                    .kind = AlertKind::Question});
+                    .kind = AlertKind::Question,
+                    .destructiveButton = 1});
 }
 
 void RestoreOperations::doTheRestoreAllInOne() {

@@ -32,12 +32,13 @@ QPainterPath restore() {
     return trayWithArrow(3, 15);
 }
 
+// The outline of three discs on a line: each arc ends where the next disc begins.
 QPainterPath cloud() {
     QPainterPath path;
     path.moveTo(7, 19);
-    path.arcTo(2, 10, 9, 9, 270, -180);
-    path.arcTo(6, 5, 10, 10, 150, -120);
-    path.arcTo(13, 9, 9, 10, 100, -190);
+    path.arcTo(2.5, 10, 9, 9, 270, -167.3);
+    path.arcTo(6, 5, 11, 11, 175.9, -175.9);
+    path.arcTo(12.75, 10.5, 8.5, 8.5, 90, -180);
     path.closeSubpath();
     return path;
 }

@@ -1,5 +1,6 @@
 #include "shots/Shots.h"
 
+#include <QCursor>
 #include <QDir>
 #include <QEventLoop>
 #include <QGuiApplication>
@@ -14,7 +15,8 @@ namespace {
 
 constexpr const char* folderOption = "--shots";
 constexpr const char* scaleOption = "--shots-at";
-constexpr int restTime = 500;  // milliseconds
+constexpr int restTime = 500;            // milliseconds
+constexpr QPoint nowhere(-1000, -1000);  // where the pointer is on nothing
 
 // All pictures on one sheet, with their names.
 class ContactSheet {
@@ -55,6 +57,7 @@ int failure(const QString& problem) {
 }
 
 QImage pictureOf(const Shot& shot) {
+    QCursor::setPos(nowhere);
     const auto window = shot.make();
     window->resize(shot.size);
     window->show();

@@ -2,6 +2,7 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QPalette>
 #include <QTemporaryDir>
 #include <QTextStream>
 
@@ -25,9 +26,25 @@ constexpr QSize phone(375, 667);
 constexpr QSize smallPhone(320, 480);
 constexpr QSize phoneOnItsSide(667, 375);
 constexpr QSize tablet(768, 1024);
+constexpr QSize desktop(1280, 800);
 
-// Pixels of the font that the person has chosen for the system.
-enum TextSize { UsualText = 15, LargeText = 23 };
+// What the person has chosen for the system.
+struct Preferences {
+    int textSize = 15;  // pixels
+    bool isDark = false;
+};
+constexpr Preferences largeText = {.textSize = 23};
+constexpr Preferences dark = {.isDark = true};
+
+void prefer(const Preferences& preferences) {
+    QFont font;
+    font.setPixelSize(preferences.textSize);
+    QGuiApplication::setFont(font);
+    QPalette palette;
+    palette.setColor(QPalette::Window, preferences.isDark ? Qt::black : Qt::white);
+    palette.setColor(QPalette::WindowText, preferences.isDark ? Qt::white : Qt::black);
+    QGuiApplication::setPalette(palette);
+}
 
 class NothingRuns : public CommandRunner {
 public:
@@ -37,10 +54,9 @@ public:
 // The program on a temporary folder, with one screen in front.
 class StagedScreen : public Window {
 public:
-    StagedScreen(const QString& scene, TextSize textSize) : files_(folder_.path().toStdString()) {
-        QFont font;
-        font.setPixelSize(textSize);
-        QGuiApplication::setFont(font);
+    StagedScreen(const QString& scene, const Preferences& preferences)
+        : files_(folder_.path().toStdString()) {
+        prefer(preferences);
         files_.createDirectory("/private/var");  // Options shows its size
         AppDelegate(*this, services_).applicationDidFinishLaunchingWithOptions({});
         const auto storyboard = loadMainStoryboard(services_);
@@ -49,6 +65,9 @@ public:
         setRootViewController(reveal_);
         reveal_->setFrontViewController(storyboard->instantiateViewController(scene + "NC"));
     }
+
+    // What is presented goes while there is what it works with.
+    ~StagedScreen() override { setRootViewController(nullptr); }
 
     RevealViewController& reveal() { return *reveal_; }
     SystemFileManager& files() { return files_; }
@@ -92,8 +111,9 @@ using Staging = std::function<void(StagedScreen& staged)>;
 
 Shot shotOf(
     const QString& name, const QString& scene, const QSize& size,
-    const Staging& staging = [](StagedScreen&) {}, TextSize text = UsualText) {
-    return {name, size, [scene, text] { return std::make_unique<StagedScreen>(scene, text); },
+    const Staging& staging = [](StagedScreen&) {}, const Preferences& preferences = {}) {
+    return {name, size,
+            [scene, preferences] { return std::make_unique<StagedScreen>(scene, preferences); },
             [staging](Window& window) { staging(static_cast<StagedScreen&>(window)); }};
 }
 
@@ -114,6 +134,24 @@ void openMenu(StagedScreen& staged) {
     staged.reveal().setFrontViewPosition(FrontPositionSlidRight);
 }
 
+void openMenuByKeys(StagedScreen& staged) {
+    auto* bar = staged.reveal().frontViewController()->view()->childItems().first();
+    bar->nextItemInFocusChain()->forceActiveFocus(Qt::TabFocusReason);
+    openMenu(staged);
+}
+
+void writeMail(StagedScreen& staged) {
+    QMetaObject::invokeMethod(staged.screen().view()->findChild<QQuickItem*>("sendBackupButton"),
+                              "clicked");
+}
+
+Staging focusing(const char* button) {
+    return [button](StagedScreen& staged) {
+        staged.screen().view()->findChild<QQuickItem*>(button)->forceActiveFocus(
+            Qt::TabFocusReason);
+    };
+}
+
 void showHud(StagedScreen& staged) {
     ProgressHUD* hud = ProgressHUD::showHUDAddedTo(staged.screen().view(), Animated::No);
     hud->setLabelText("Restoration in progress...");
@@ -121,8 +159,11 @@ void showHud(StagedScreen& staged) {
 
 std::vector<Shot> shots() {
     std::vector<Shot> shots;
-    const std::pair<const char*, QSize> sizes[] = {
-        {"small", smallPhone}, {"phone", phone}, {"side", phoneOnItsSide}, {"tablet", tablet}};
+    const std::pair<const char*, QSize> sizes[] = {{"small", smallPhone},
+                                                   {"phone", phone},
+                                                   {"side", phoneOnItsSide},
+                                                   {"tablet", tablet},
+                                                   {"desktop", desktop}};
     for (const char* scene : {"backup", "restore", "cloud", "options", "help"})
         for (const auto& [suffix, size] : sizes)
             shots.push_back(shotOf(QString("%1-%2").arg(scene, suffix), scene, size));
@@ -135,7 +176,18 @@ std::vector<Shot> shots() {
                                                      {"restore", pressing("accountsButton")}};
     for (const auto& [scene, staging] : large)
         shots.push_back(
-            shotOf(QString("large-%1").arg(scene), scene, smallPhone, staging, LargeText));
+            shotOf(QString("large-%1").arg(scene), scene, smallPhone, staging, largeText));
+    shots.push_back(
+        shotOf("large-size", "options", smallPhone, pressing("backupSizeButton"), largeText));
+    shots.push_back(shotOf("large-mail", "cloud", smallPhone, writeMail, largeText));
+    for (const auto& [scene, staging] : large)
+        shots.push_back(shotOf(QString("dark-%1").arg(scene), scene, phone, staging, dark));
+    shots.push_back(
+        shotOf("dark-remove", "options", phone, pressing("removeSafeguardButton"), dark));
+    shots.push_back(shotOf("dark-mail", "cloud", phone, writeMail, dark));
+    shots.push_back(shotOf("mail", "cloud", phone, writeMail));
+    shots.push_back(shotOf("keys-screen", "backup", phone, focusing("packagesButton")));
+    shots.push_back(shotOf("keys-menu", "backup", phone, openMenuByKeys));
     shots.push_back(shotOf("hud", "backup", phone, showHud));
     shots.push_back(shotOf("alert-problem", "backup", phone, pressing("accountsButton")));
     shots.push_back(shotOf("alert-missing", "restore", phone, pressing("accountsButton")));

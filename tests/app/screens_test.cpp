@@ -66,7 +66,9 @@ TEST_F(ScreensTest, AScreenOutsideTheContainerIsNotWired) {
     const auto alone = storyboard->instantiateViewController("backupNC");
     window.setRootViewController(alone);
     auto& screen = static_cast<NavigationController&>(*alone);
-    static_cast<TaskScreen&>(*screen.rootViewController()).sidebarButton->press();
+    auto& button = static_cast<TaskScreen&>(*screen.rootViewController()).sidebarButton;
+    EXPECT_FALSE(button->hasAction()) << "no bar shows it";
+    button->press();
     Finger(window, clock).drag({20, 300}, {300, 300});
     EXPECT_EQ(reveal->frontViewPosition(), FrontPositionClosed);
 }

@@ -1,6 +1,7 @@
 #include "platform/controllers/NavigationBar.h"
 
 #include <QCoreApplication>
+#include <utility>
 
 #include "platform/motion/Attachment.h"
 
@@ -16,6 +17,11 @@ public:
 };
 
 }  // namespace
+
+void BarButtonItem::setAction(std::function<void()> action) {
+    action_ = std::move(action);
+    emit changed();
+}
 
 void BarButtonItem::press() const {
     if (action_)

@@ -7,7 +7,6 @@
 #include <QString>
 #include <QtQmlIntegration>
 #include <functional>
-#include <utility>
 
 namespace tarnwick {
 
@@ -21,12 +20,14 @@ class BarButtonItem : public QObject {
     QML_ELEMENT
     Q_PROPERTY(QString title MEMBER title_ NOTIFY changed)
     Q_PROPERTY(QString symbol MEMBER symbol_ NOTIFY changed)
+    Q_PROPERTY(bool hasAction READ hasAction NOTIFY changed)
 
 public:
     using QObject::QObject;
 
-    // A press does nothing until an action is set.
-    void setAction(std::function<void()> action) { action_ = std::move(action); }
+    // Until an action is set, a press does nothing and no bar shows the button.
+    void setAction(std::function<void()> action);
+    bool hasAction() const { return action_ != nullptr; }
     Q_INVOKABLE void press() const;
 
 signals:

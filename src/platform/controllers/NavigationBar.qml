@@ -1,7 +1,7 @@
 import QtQuick
 import Tarnwick
 
-// A bar with a screen's title and one button on the left.
+// A bar with a screen's title and one button on the left, which F10 presses too.
 Rectangle {
     id: bar
 
@@ -16,21 +16,26 @@ Rectangle {
     BareButton {
         id: button
 
-        visible: bar.leftItem !== null
+        // A button that does nothing is not shown.
+        visible: bar.leftItem?.hasAction ?? false
         x: 4
         width: Math.max(bar.height, words.visible ? words.implicitWidth + 24 : 0)
         height: bar.height
         text: bar.leftItem?.title ?? ""
-        opacity: pressed ? 0.4 : 1
         focusRingColor: bar.itemTint
         focusRingRadius: 8
         onClicked: bar.leftItem.press()
+
+        background: BarButtonShade { button: button }
 
         contentItem: Item {
             SymbolView {
                 id: symbol
 
                 anchors.centerIn: parent
+                // As the texts grow, within the bar.
+                width: Math.min(Math.round(24 * Look.textScale), bar.height - 12)
+                height: width
                 name: bar.leftItem?.symbol ?? ""
                 color: bar.itemTint
             }
@@ -43,31 +48,27 @@ Rectangle {
                 text: button.text
                 textFormat: Text.PlainText
                 color: bar.itemTint
-                font.pixelSize: Look.headline
+                font { family: Look.family; pixelSize: Look.caption; bold: true }
+            }
+        }
+
+        Shortcut {
+            sequence: "F10"
+            enabled: button.visible && button.enabled
+            onActivated: {
+                button.forceActiveFocus(Qt.ShortcutFocusReason);
+                button.clicked();
             }
         }
     }
 
-    component Title: Text {
-        width: Math.min(implicitWidth, bar.width - 2 * (button.x + button.width))
+    BarTitle {
+        anchors.centerIn: parent
         text: bar.title
-        textFormat: Text.PlainText
-        elide: Text.ElideRight
-        font: bar.titleFont
-    }
-
-    Title {
-        anchors.centerIn: parent
-        anchors.horizontalCenterOffset: bar.titleShadowOffset.x
-        anchors.verticalCenterOffset: bar.titleShadowOffset.y
-        color: bar.titleShadowColor
-        Accessible.ignored: true
-    }
-
-    Title {
-        anchors.centerIn: parent
         color: bar.titleColor
-        Accessible.role: Accessible.Heading
-        Accessible.name: text
+        font: bar.titleFont
+        shadowColor: bar.titleShadowColor
+        shadowOffset: bar.titleShadowOffset
+        widest: bar.width - 2 * (button.x + button.width)
     }
 }

@@ -27,7 +27,8 @@ const Alert draftQuestion = {.title = "Delete or Keep Draft",
                              .message = "A draft can be finished in another mail program.",
                              .cancelButtonTitle = "Cancel",
                              .otherButtonTitles = {"Delete Draft", "Save Draft"},
-                             .kind = AlertKind::Question};
+                             .kind = AlertKind::Question,
+                             .destructiveButton = deleteIndex};
 
 QString sizeText(const QByteArray& data) {
     if (data.isNull())
@@ -66,6 +67,9 @@ void MailComposeViewController::loadView() {
                           {{"barTint", look.barTint},
                            {"itemTint", look.itemTint},
                            {"titleColor", look.titleColor},
+                           {"titleFont", look.titleFont},
+                           {"titleShadowColor", look.titleShadowColor},
+                           {"titleShadowOffset", look.titleShadowOffset},
                            {"subject", preset_.subject},
                            {"body", preset_.body},
                            {"notice", mailer_.canSend() ? QString() : noMailer},

@@ -9,6 +9,9 @@ FocusScope {
     required property color barTint
     required property color itemTint
     required property color titleColor
+    required property font titleFont
+    required property color titleShadowColor
+    required property point titleShadowOffset
     required property string subject
     required property string body
     required property var attachments
@@ -26,28 +29,32 @@ FocusScope {
     Keys.onEscapePressed: event => { if (!event.isAutoRepeat && cancelButton.enabled) cancelButton.clicked() }
 
     component BarButton: BareButton {
-        width: Math.ceil(implicitContentWidth) + 2 * composer.margin
+        id: barButton
+
+        width: Math.ceil(implicitContentWidth) + 2 * 12
         height: bar.height
-        font.pixelSize: Look.headline
-        opacity: enabled ? (pressed ? 0.5 : 1) : 0.45
+        font { pixelSize: Look.caption; bold: true }
+        opacity: enabled ? 1 : 0.45
         focusRingColor: composer.itemTint
         focusRingRadius: 8
         Accessible.ignored: false
         Accessible.description: enabled ? "" : "not available"
 
         contentItem: Text {
-            text: parent.text
+            text: barButton.text
             textFormat: Text.PlainText
-            font: parent.font
+            font: barButton.font
             color: composer.itemTint
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
         }
+
+        background: BarButtonShade { button: barButton }
     }
 
     Rectangle {
         anchors.fill: parent
-        color: "white"
+        color: Look.sheet
     }
 
     Flickable {
@@ -127,8 +134,8 @@ FocusScope {
                             width: parent.width
                             text: attachment.modelData.name
                             textFormat: Text.PlainText
-                            font.pixelSize: Look.headline
-                            color: "black"
+                            font { family: Look.family; pixelSize: Look.headline }
+                            color: Look.text
                             wrapMode: Text.Wrap
                         }
 
@@ -136,8 +143,8 @@ FocusScope {
                             width: parent.width
                             text: attachment.modelData.size
                             textFormat: Text.PlainText
-                            font.pixelSize: Look.body
-                            color: Qt.rgba(0.24, 0.24, 0.26, 0.8)
+                            font { family: Look.family; pixelSize: Look.body }
+                            color: Look.quietText
                             wrapMode: Text.Wrap
                         }
                     }
@@ -187,20 +194,18 @@ FocusScope {
             enabled: !composer.busy
         }
 
-        Text {
+        BarTitle {
             id: title
 
             // Between the buttons if there is room; they tell enough.
-            visible: implicitWidth <= bar.width - 2 * Math.max(cancelButton.width, sendButton.width)
-            anchors.centerIn: parent
+            visible: implicitWidth <= sendButton.x - cancelButton.width
+            x: Math.round(Math.max(cancelButton.width, Math.min((bar.width - width) / 2, sendButton.x - width)))
+            anchors.verticalCenter: parent.verticalCenter
             text: composer.busy ? composer.busyWith : "New Message"
-            textFormat: Text.PlainText
-            font.pixelSize: Look.headline
-            font.bold: true
             color: composer.titleColor
-
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
+            font: composer.titleFont
+            shadowColor: composer.titleShadowColor
+            shadowOffset: composer.titleShadowOffset
         }
 
         BarButton {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tarnwick
 
 // A button without a look of its own. It can be pressed by touch, mouse, keyboard and assistive
 // technology; a ring shows the keyboard focus.
@@ -13,6 +14,8 @@ T.AbstractButton {
     property real focusRingRadius: 3
 
     focusPolicy: Qt.StrongFocus
+    hoverEnabled: true
+    font.family: Look.family
 
     // A key that was already held when the button got the focus does not press it.
     Keys.onSpacePressed: event => event.accepted = event.isAutoRepeat

@@ -1,6 +1,7 @@
 import QtQuick
+import Tarnwick
 
 // A separator.
 Rectangle {
-    color: Qt.rgba(0.24, 0.24, 0.26, 0.33)
+    color: Look.separator
 }

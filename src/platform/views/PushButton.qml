@@ -7,25 +7,24 @@ BareButton {
     id: button
 
     property color captionColor: "white"
+    // Lies over the fill.
+    readonly property color shade: Qt.rgba(0, 0, 0, pressed ? 0.25 : hovered ? 0.1 : 0)
 
     padding: 8
     implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
     implicitHeight: Math.max(44, Math.ceil(implicitContentHeight) + topPadding + bottomPadding)
-    font.pixelSize: Look.headline
+    font { pixelSize: Look.caption; bold: true }
     focusRingColor: captionColor
 
-    contentItem: Text {
+    contentItem: WrappedText {
         text: button.text
-        textFormat: Text.PlainText
         font: button.font
         color: button.captionColor
         horizontalAlignment: Text.AlignHCenter
-        verticalAlignment: Text.AlignVCenter
-        wrapMode: Text.Wrap
     }
 
     background: Rectangle {
         radius: 5
-        color: button.pressed ? Qt.darker(Look.tint, 1.25) : Look.tint
+        color: Qt.tint(Look.tint, button.shade)
     }
 }

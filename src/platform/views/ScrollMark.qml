@@ -1,4 +1,5 @@
 import QtQuick
+import Tarnwick
 
 // Shows at the right edge of a scrolling area which part of it is visible.
 Rectangle {
@@ -13,5 +14,5 @@ Rectangle {
     width: 3
     height: Math.max(12, track * area.visibleArea.heightRatio)
     radius: width / 2
-    color: Qt.rgba(0, 0, 0, 0.35)
+    color: Look.mark
 }

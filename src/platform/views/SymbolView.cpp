@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QHash>
 #include <QPainter>
+#include <cmath>
 
 #include "platform/motion/Attachment.h"
 
@@ -22,12 +23,21 @@ QPainterPath menu() {
     return path;
 }
 
+// An arrowhead that points down, where a list goes on.
+QPainterPath more() {
+    QPainterPath path;
+    path.moveTo(6, 9.5);
+    path.lineTo(12, 15);
+    path.lineTo(18, 9.5);
+    return path;
+}
+
 // All drawings by name.
 class Symbols : public QObject {
 public:
     using QObject::QObject;
 
-    QHash<QString, QPainterPath> drawings = {{"menu", menu()}};
+    QHash<QString, QPainterPath> drawings = {{"menu", menu()}, {"more", more()}};
 };
 
 QHash<QString, QPainterPath>& drawings() {
@@ -56,8 +66,9 @@ void SymbolView::setColor(const QColor& color) {
 
 void SymbolView::paint(QPainter* painter) {
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->scale(width() / symbolExtent, height() / symbolExtent);
-    painter->setPen(QPen(color_, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const double scale = width() / symbolExtent;
+    painter->scale(scale, height() / symbolExtent);
+    painter->setPen(QPen(color_, lineWidth / std::sqrt(scale), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter->drawPath(drawings().value(name_));
 }
 

@@ -24,7 +24,7 @@ FocusScope {
         text: line.label + ":"
         textFormat: Text.PlainText
         font: field.font
-        color: Qt.rgba(0.24, 0.24, 0.26, 0.8)
+        color: Look.quietText
         Accessible.ignored: true
     }
 

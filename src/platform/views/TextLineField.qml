@@ -5,9 +5,10 @@ import Tarnwick
 TextEdit {
     textFormat: TextEdit.PlainText
     wrapMode: TextEdit.Wrap
-    font.pixelSize: Look.headline
-    color: "black"
+    font { family: Look.family; pixelSize: Look.headline }
+    color: Look.text
     selectionColor: Look.tint
+    selectedTextColor: "white"
     selectByMouse: true
     activeFocusOnTab: true
 

@@ -1,17 +1,19 @@
 import QtQuick
 import Tarnwick
 
-// A button in an alert's panel: a caption in the application's tint, under a separator.
+// A button in an alert's panel: a caption in the application's tint, or in red, under a separator.
 PushButton {
     id: button
 
     required property AlertPanel panel
     required property int index
+    property bool isDestructive: false
 
     width: panel.sideBySide ? panel.width / 2 : panel.width
-    captionColor: Look.tint
+    height: panel.rowHeight
+    captionColor: isDestructive ? Look.destructive : Look.link
     focusRingRadius: 10
-    font.bold: index === 0
+    font { pixelSize: Look.headline; bold: index === 0 }
     // The alert moves the focus: in the order in which buttons stand there.
     activeFocusOnTab: false
     // No shortcut of what lies below.
@@ -23,13 +25,13 @@ PushButton {
 
         // What the button and the whole panel have in common lights up: corners stay round.
         Rectangle {
-            visible: button.pressed
+            visible: button.pressed || button.hovered
             x: -button.x
             y: button.panel.buttonArea.contentY - button.panel.buttonArea.y - button.y
             width: button.panel.width
             height: button.panel.height
             radius: button.panel.radius
-            color: Qt.rgba(0, 0, 0, 0.1)
+            color: Qt.tint(button.panel.color, button.shade)
         }
 
         Hairline {

@@ -2,7 +2,8 @@ import QtQuick
 import Tarnwick
 
 // An alert's rounded panel, centred over its parent: texts above, buttons below. If the screen is
-// too low for both, each scrolls in its part. What the panel does is C++'s.
+// too low for both, each scrolls in its part, by whole lines and whole buttons, and an arrow says
+// that there are more buttons. What the panel does is C++'s.
 RoundedBox {
     id: panel
 
@@ -14,24 +15,33 @@ RoundedBox {
     readonly property alias buttonArea: buttonArea
     // The buttons are put here, from the top down.
     readonly property alias buttonGrid: buttonGrid
-    readonly property bool sideBySide: buttonGrid.children.length === 2
+    readonly property int buttonCount: buttonGrid.children.length
+    readonly property bool sideBySide: buttonCount === 2
         && Math.max(buttonGrid.children[0].implicitWidth, buttonGrid.children[1].implicitWidth) <= width / 2
 
     signal buttonClicked(int index)
 
     readonly property int screenMargin: 16
     readonly property int padding: 16
-    readonly property real widest: (parent?.width ?? 0) - 2 * screenMargin
-    readonly property real highest: (parent?.height ?? 0) - 2 * screenMargin
+    readonly property real screenWidth: parent?.width ?? 0
+    readonly property real screenHeight: parent?.height ?? 0
+    readonly property real widest: screenWidth - 2 * screenMargin
+    readonly property real highest: screenHeight - 2 * screenMargin
+    // A choice among many needs the height of a screen on its side for the buttons.
+    readonly property int usualWidth: buttonCount > 3 && screenWidth > screenHeight ? 420 : 288
     readonly property bool hasText: title !== "" || message !== ""
+    readonly property int leastRows: 3
+    // All buttons are as high as the highest.
+    readonly property real rowHeight: Array.prototype.reduce.call(buttonGrid.children, (highest, button) => Math.max(highest, button.implicitHeight), 0)
+    readonly property bool scrollsButtons: buttonArea.height < buttonGrid.height
 
     // Even, so that two buttons share it in whole points.
-    width: 2 * Math.round(Math.min(270 * Look.textScale, widest) / 2)
-    height: textArea.height + buttonArea.height
+    width: 2 * Math.round(Math.min(usualWidth * Look.textScale, widest) / 2)
+    height: textArea.height + buttonArea.height + (scrollsButtons ? more.height : 0)
     x: screenMargin + Math.round((widest - width) / 2)
     y: screenMargin + Math.round((highest - height) / 2)
     radius: 14
-    color: Qt.rgba(0.97, 0.97, 0.97, 0.99)
+    color: Look.panel
 
     Accessible.role: Accessible.AlertMessage
     Accessible.name: title !== "" ? title : message
@@ -40,9 +50,14 @@ RoundedBox {
     Flickable {
         id: textArea
 
+        readonly property real room: panel.highest - Math.min(buttonGrid.height, panel.leastRows * panel.rowHeight + more.height)
+        readonly property real aboveLines: texts.y + message.y
+        readonly property real lineHeight: message.height / Math.max(message.lineCount, 1)
+
         width: panel.width
-        height: Math.min(contentHeight, Math.max(panel.highest - buttonArea.contentHeight, Math.round(panel.highest / 3)))
-        contentHeight: panel.hasText ? texts.height + 2 * (panel.padding + 2) : 0
+        height: contentHeight <= room ? contentHeight
+            : Math.round(aboveLines + lineHeight * Math.max(1, Math.floor((room - aboveLines) / lineHeight)))
+        contentHeight: panel.hasText ? texts.height + 2 * texts.y : 0
         interactive: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
         clip: interactive
@@ -55,27 +70,22 @@ RoundedBox {
             width: panel.width - 2 * panel.padding
             spacing: 4
 
-            Text {
+            WrappedText {
                 visible: text !== ""
                 width: parent.width
                 text: panel.title
-                textFormat: Text.PlainText
-                font.pixelSize: Look.headline
-                font.bold: true
-                color: "black"
+                font { pixelSize: Look.headline; bold: true }
                 horizontalAlignment: Text.AlignHCenter
-                wrapMode: Text.Wrap
             }
 
-            Text {
+            WrappedText {
+                id: message
+
                 visible: text !== ""
                 width: parent.width
                 text: panel.message
-                textFormat: Text.PlainText
                 font.pixelSize: Look.body
-                color: "black"
                 horizontalAlignment: Text.AlignHCenter
-                wrapMode: Text.Wrap
             }
         }
 
@@ -87,15 +97,29 @@ RoundedBox {
     Flickable {
         id: buttonArea
 
+        readonly property real room: panel.highest - textArea.height
+
         y: textArea.height
         width: panel.width
-        height: Math.min(contentHeight, panel.highest - textArea.height)
+        height: contentHeight <= room ? contentHeight
+            : panel.rowHeight * Math.max(1, Math.floor((room - more.height) / panel.rowHeight))
         contentHeight: buttonGrid.height
         interactive: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
         clip: interactive
+        onMovementEnded: settling.start()
 
         Accessible.role: Accessible.List
+
+        // Comes to rest on whole buttons.
+        NumberAnimation {
+            id: settling
+
+            target: buttonArea
+            property: "contentY"
+            to: panel.rowHeight * Math.round(buttonArea.contentY / panel.rowHeight)
+            duration: 150
+        }
 
         Grid {
             id: buttonGrid
@@ -108,6 +132,24 @@ RoundedBox {
         ScrollMark {
             area: buttonArea
         }
+    }
+
+    SymbolView {
+        id: more
+
+        visible: panel.scrollsButtons && !buttonArea.atYEnd
+        anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom }
+        width: 24
+        height: 24
+        name: "more"
+        color: Look.quietText
+    }
+
+    Hairline {
+        visible: panel.scrollsButtons
+        y: buttonArea.y + buttonArea.height
+        width: panel.width
+        height: panel.hairline
     }
 
     Hairline {

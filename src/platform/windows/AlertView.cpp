@@ -14,7 +14,6 @@ namespace {
 
 constexpr double firstOpacity = 0.01;  // assistive technology passes over what has none
 constexpr double largeScale = 1.15;    // it comes from nearer
-constexpr double lengthOfLine = 20.0;  // points that an arrow key scrolls
 
 QQuickItem* partOf(const QQuickItem* panel, const char* name) {
     return panel->property(name).value<QQuickItem*>();
@@ -57,7 +56,8 @@ void AlertView::addButton(const std::string& caption, int index) {
     createQmlItem("AlertButton", partOf(panel_, "buttonGrid"),
                   {{"panel", QVariant::fromValue(panel_)},
                    {"text", QString::fromStdString(caption)},
-                   {"index", index}});
+                   {"index", index},
+                   {"isDestructive", index > 0 && index == alert_.destructiveButton}});
 }
 
 double AlertView::hairline() const {
@@ -119,14 +119,6 @@ void AlertView::scrollToFocus() {
         scrollToShow(partOf(panel_, "buttonArea"), button, button->boundingRect(), 0);
 }
 
-void AlertView::scrollText(double distance) {
-    scrollBy(partOf(panel_, "textArea"), distance);
-}
-
-double AlertView::lengthOfPage() const {
-    return partOf(panel_, "textArea")->height() - lengthOfLine;
-}
-
 void AlertView::appear() {
     applyAtOnce({{panel_, Change::Property::Opacity, firstOpacity},
                  {panel_, Change::Property::Scale, largeScale}});
@@ -158,37 +150,44 @@ bool AlertView::event(QEvent* event) {
     return InputBlocker::event(event);
 }
 
-void AlertView::keyPressEvent(QKeyEvent* event) {
-    const bool hasButtons = !buttons().empty();
-    switch (event->key()) {
+// False if the key does not go from button to button.
+bool AlertView::moveFocusBy(int key) {
+    switch (key) {
+        case Qt::Key_Down:
+        case Qt::Key_Right:
         case Qt::Key_Tab:
             moveFocus(1, Qt::TabFocusReason);
             break;
+        case Qt::Key_Up:
+        case Qt::Key_Left:
         case Qt::Key_Backtab:
             moveFocus(-1, Qt::BacktabFocusReason);
             break;
-        case Qt::Key_Down:
-        case Qt::Key_Right:
-            hasButtons ? moveFocus(1, Qt::TabFocusReason) : scrollText(lengthOfLine);
-            break;
-        case Qt::Key_Up:
-        case Qt::Key_Left:
-            hasButtons ? moveFocus(-1, Qt::BacktabFocusReason) : scrollText(-lengthOfLine);
-            break;
-        case Qt::Key_PageDown:
-            scrollText(lengthOfPage());
-            break;
-        case Qt::Key_PageUp:
-            scrollText(-lengthOfPage());
-            break;
-        case Qt::Key_Escape:
-            if (hasCancelButton() && !event->isAutoRepeat() && !settling_.isUnderWay())
-                emit buttonPressed(0);
-            break;
         default:
-            break;
+            return false;
     }
+    return buttons().size() > 1;
+}
+
+void AlertView::moveFocusToEnd(int key) {
+    const auto all = buttons();
+    if (key == Qt::Key_Home && !all.empty())
+        focus(all.front(), Qt::BacktabFocusReason);
+    if (key == Qt::Key_End && !all.empty())
+        focus(all.back(), Qt::TabFocusReason);
+}
+
+void AlertView::cancelByKey(const QKeyEvent& event) {
+    if (hasCancelButton() && !event.isAutoRepeat() && !settling_.isUnderWay())
+        emit buttonPressed(0);
+}
+
+void AlertView::keyPressEvent(QKeyEvent* event) {
     event->accept();
+    if (event->key() == Qt::Key_Escape)
+        cancelByKey(*event);
+    else if (!moveFocusBy(event->key()) && !scrollByKey(partOf(panel_, "textArea"), *event))
+        moveFocusToEnd(event->key());
 }
 
 }  // namespace tarnwick

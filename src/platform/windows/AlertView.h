@@ -12,8 +12,9 @@ namespace tarnwick {
 
 // One alert on the screen: a panel in the middle of its parent, which it fills. It takes every
 // touch, mouse, wheel and key that reaches it. Keys: Tab and arrows go from button to button,
-// Return, Enter and the space bar press one, Escape presses the cancel button, Page Up and Page
-// Down move a long message. Main thread.
+// Return, Enter and the space bar press one, Escape presses the cancel button; the others that
+// scroll, and the arrows where there is nothing to choose, move a long message. Home and End go to
+// the first and the last button if there is nothing to move. Main thread.
 //
 // An alert that has just come forward takes no press: it may have been meant for what was there
 // before. Its buttons are offered to assistive technology when they can be pressed.
@@ -58,9 +59,10 @@ private:
     QQuickItem* firstFocus() const;
     void focus(QQuickItem* item, Qt::FocusReason reason);
     void moveFocus(int step, Qt::FocusReason reason);
+    bool moveFocusBy(int key);
+    void moveFocusToEnd(int key);
+    void cancelByKey(const QKeyEvent& event);
     void scrollToFocus();
-    void scrollText(double distance);
-    double lengthOfPage() const;
 
     const Alert alert_;
     QQuickItem* panel_;

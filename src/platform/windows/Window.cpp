@@ -51,6 +51,14 @@ void Window::followFocus() {
         scrollToVisible(item);
 }
 
+// What no item has a use for scrolls.
+void Window::keyPressEvent(QKeyEvent* event) {
+    QQuickWindow::keyPressEvent(event);
+    QQuickItem* area = event->isAccepted() ? nullptr : scrolledByKeys(activeFocusItem(), &stage_);
+    if (area != nullptr)
+        event->setAccepted(scrollByKey(area, *event));
+}
+
 bool Window::event(QEvent* event) {
     if (!arbiter_.takes(event))
         return QQuickWindow::event(event);
