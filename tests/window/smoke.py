@@ -13,9 +13,9 @@ window = Window()
 
 
 def check_screen(title, before=()):
-    """The scene's headings and buttons precede those of the bar."""
+    """The scene's headings and buttons follow those of the bar."""
     captions = re.findall(r'(?:SectionHeading|[A-Z][a-z]+Button) \{.* text: "([^"]*)"', (scenes / f"{title}.qml").read_text())
-    window.wait_for("it is complete", lambda: window.names(HEADING, BUTTON) == [*before, *captions, "Menu", title])
+    window.wait_for("it is complete", lambda: window.names(HEADING, BUTTON) == ["Menu", title, *before, *captions])
     same(f"{title}: everything has a name", [], window.nameless())
 
 

@@ -24,16 +24,17 @@ QVariantMap barProperties() {
 class NavigationView : public Stage {
 public:
     NavigationView()
-        : content(new QQuickItem(this)),
-          bar(createQmlItem(QStringLiteral("NavigationBar"), this, barProperties())),
+        : bar(createQmlItem(QStringLiteral("NavigationBar"), this, barProperties())),
+          content(new QQuickItem(this)),
           busyLine(createQmlItem(QStringLiteral("BusyLine"), this, {{"z", 1}})) {
         bar->setHeight(navigationBarHeight);
         busyLine->setY(navigationBarHeight);
         content->setY(navigationBarHeight);
     }
 
-    QQuickItem* const content;
+    // The keyboard goes from the top down, too.
     QQuickItem* const bar;
+    QQuickItem* const content;
     QQuickItem* const busyLine;
 
 protected:

@@ -2,6 +2,7 @@
 
 #include <QQuickItem>
 #include <QString>
+#include <vector>
 
 #include "platform/controllers/Outlet.h"
 #include "platform/controllers/ViewController.h"
@@ -35,6 +36,13 @@ protected:
     // The prototype with this identifier. Throws a StoryboardError if the scene has none.
     QQuickItem* dequeueReusableCellWithIdentifier(const QString& identifier) const;
     static void setSelectionStyle(QQuickItem* cell, CellSelectionStyle style);
+    // From the top down, those that the keyboard can be given to.
+    std::vector<QQuickItem*> selectableCells() const;
+    // Of the rows: arrows go from one to the next, Home and End to the first and the last.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    bool moveFocus(int key) const;
 };
 
 }  // namespace tarnwick
