@@ -1,6 +1,7 @@
 #include "app/Program.h"
 
 #include <QGuiApplication>
+#include <QScreen>
 
 #include "app/MainInterface.h"
 #include "app/QuickActions.h"
@@ -9,7 +10,9 @@ namespace tarnwick {
 
 namespace {
 
-constexpr QSize phoneSize(375, 667);  // points
+// In points.
+constexpr QSize phoneSize(375, 667);
+constexpr QSize smallestSize(320, 480);
 
 }  // namespace
 
@@ -38,11 +41,14 @@ void Program::launch(const LaunchOptions& options) {
     // Asked first, as it came last.
     deferredClose_ = std::make_unique<DeferredClose>(window_, gate_.tasks());
     window_.setTitle(QGuiApplication::applicationDisplayName());
-    window_.resize(phoneSize);
+    const QSize room = window_.screen()->availableSize();
+    window_.setMinimumSize(smallestSize.boundedTo(room));
+    window_.resize(phoneSize.boundedTo(room));
     delegate_.applicationDidFinishLaunchingWithOptions(options);
     if (!window_.rootViewController())
         window_.setRootViewController(
             loadMainStoryboard(services_)->instantiateInitialViewController());
+    settings_.takeAnswer();
     window_.makeKeyAndVisible();
     tellOfLeftRun();
 }

@@ -15,6 +15,7 @@
 #include "guard/Guard.h"
 #include "guard/SharedRun.h"
 #include "mail/ComposerMailer.h"
+#include "platform/desktop/DesktopSettings.h"
 #include "platform/threads/PlatformQueues.h"
 #include "platform/windows/Window.h"
 
@@ -39,6 +40,7 @@ private:
     void launch(const LaunchOptions& options);
     void tellOfLeftRun();
 
+    DesktopSettings settings_;  // asks as early as possible
     const ItemCatalogue catalogue_;
     CommandOutput commandOutput_{STDERR_FILENO};
     SystemCommandRunner runner_{&commandOutput_};

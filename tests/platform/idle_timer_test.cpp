@@ -5,10 +5,10 @@
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
 #include <QElapsedTimer>
-#include <QProcess>
 #include <QWindow>
 
 #include "platform/desktop/IdleTimer.h"
+#include "support/SessionDaemon.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -26,13 +26,8 @@ public:
 };
 
 TEST(IdleTimer, TheDesktopIsHeldOffWhileTheWindowIsInFront) {
-    QProcess daemon;
-    daemon.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
-    ASSERT_TRUE(daemon.waitForReadyRead()) << "dbus-daemon is not installed";
-    const QByteArray address = daemon.readLine().trimmed();
-    qputenv("DBUS_SESSION_BUS_ADDRESS", address);
     ScreenSaver desktop;
-    auto bus = QDBusConnection::connectToBus(QString::fromUtf8(address), "desktop");
+    auto bus = QDBusConnection::connectToBus(sessionDaemon(), "desktop");
     ASSERT_TRUE(bus.registerService("org.freedesktop.ScreenSaver"));
     bus.registerVirtualObject("/org/freedesktop/ScreenSaver", &desktop);
     const auto await = [&desktop](const std::string& calls) {
@@ -60,9 +55,6 @@ TEST(IdleTimer, TheDesktopIsHeldOffWhileTheWindowIsInFront) {
     window.requestActivate();
     await(asked + "UnInhibit 7;" + asked);
     QDBusConnection::disconnectFromBus("desktop");
-    qunsetenv("DBUS_SESSION_BUS_ADDRESS");
-    daemon.kill();
-    daemon.waitForFinished();
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include "platform/desktop/IdleTimer.h"
 
-#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -8,6 +7,8 @@
 #include <QWindow>
 #include <optional>
 #include <utility>
+
+#include "platform/desktop/SessionBus.h"
 
 namespace tarnwick {
 
@@ -29,8 +30,7 @@ public:
 
 private:
     void follow() {
-        // Without an address the library would start a bus of its own.
-        if (qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS"))
+        if (!sessionBus().isConnected())
             return;
         if (window_->isActive() && !isAsked_)
             inhibit();
@@ -42,8 +42,7 @@ private:
         isAsked_ = true;
         auto message = call("Inhibit");
         message << QGuiApplication::applicationDisplayName() << QStringLiteral("In front");
-        auto* answer =
-            new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(message), this);
+        auto* answer = new QDBusPendingCallWatcher(sessionBus().asyncCall(message), this);
         connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
             answer->deleteLater();
             const QDBusPendingReply<uint> cookie = *answer;
@@ -60,7 +59,7 @@ private:
         isAsked_ = false;
         auto message = call("UnInhibit");
         message << *std::exchange(cookie_, std::nullopt);
-        QDBusConnection::sessionBus().asyncCall(message);
+        sessionBus().asyncCall(message);
     }
 
     QWindow* window_;

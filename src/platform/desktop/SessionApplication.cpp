@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "core/StartToken.h"
+#include "platform/desktop/SessionBus.h"
 #include "platform/desktop/ShortcutItem.h"
 
 namespace tarnwick {
@@ -20,12 +21,6 @@ constexpr int patience = 5000;  // milliseconds
 // variable that the toolkit takes it from.
 constexpr char tokenName[] = "activation-token";
 constexpr char tokenVariable[] = "XDG_ACTIVATION_TOKEN";
-
-// Without an address the library would start a bus of its own.
-QDBusConnection sessionBus() {
-    return qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS") ? QDBusConnection(QString())
-                                                                   : QDBusConnection::sessionBus();
-}
 
 QString objectPath(const QString& id) {
     return '/' + QString(id).replace('.', '/').replace('-', '_');
