@@ -68,7 +68,8 @@ void SymbolView::paint(QPainter* painter) {
     painter->setRenderHint(QPainter::Antialiasing);
     const double scale = width() / symbolExtent;
     painter->scale(scale, height() / symbolExtent);
-    painter->setPen(QPen(color_, lineWidth / std::sqrt(scale), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->setPen(
+        QPen(color_, lineWidth / std::sqrt(scale), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter->drawPath(drawings().value(name_));
 }
 

@@ -12,8 +12,8 @@ namespace tarnwick {
 // The side of the square, in points, that symbols are drawn in.
 inline constexpr double symbolExtent = 24.0;
 
-// Makes a line drawing available to all symbol views of the application. "menu" and "more" are built
-// in. Main thread.
+// Makes a line drawing available to all symbol views of the application. "menu" and "more" are
+// built in. Main thread.
 void addSymbol(const QString& name, const QPainterPath& drawing);
 
 // A line drawing in one colour, sharp at every size; a larger one has finer lines for its size. An
