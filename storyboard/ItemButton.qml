@@ -15,13 +15,15 @@ ScreenButton {
     Accessible.description: detail
 
     contentItem: Item {
-        implicitWidth: icon.width + words.x + words.implicitWidth
+        implicitWidth: words.x + name.implicitWidth
         implicitHeight: words.height
 
         SymbolView {
             id: icon
 
             anchors.verticalCenter: parent.verticalCenter
+            width: Math.round(24 * Look.textScale)
+            height: width
             name: button.symbol
             color: button.captionColor
         }
@@ -32,25 +34,38 @@ ScreenButton {
             anchors.verticalCenter: parent.verticalCenter
             x: icon.width + 12
             width: parent.width - x
-            spacing: 1
+            spacing: 3
 
-            Text {
+            WrappedText {
+                id: name
+
                 width: parent.width
                 text: button.text
-                textFormat: Text.PlainText
                 font: button.font
                 color: button.captionColor
-                wrapMode: Text.Wrap
             }
 
-            Text {
-                width: parent.width
-                // Its place is kept until it is known.
-                text: button.detail === "" ? " " : button.detail
-                textFormat: Text.PlainText
-                font { pixelSize: Look.body; bold: true }
-                color: button.captionColor
-                elide: Text.ElideRight
+            // Small text needs a darker ground than a caption does. Its place is kept until it is
+            // known.
+            Rectangle {
+                width: Math.min(state.implicitWidth + 2 * state.x, parent.width)
+                height: state.implicitHeight + 2
+                radius: 4
+                color: Qt.rgba(0, 0, 0, 0.28)
+                opacity: button.detail === "" ? 0 : 1
+
+                Text {
+                    id: state
+
+                    x: 6
+                    y: 1
+                    width: parent.width - 2 * x
+                    text: button.detail
+                    textFormat: Text.PlainText
+                    font { family: Look.family; pixelSize: Look.body }
+                    color: button.captionColor
+                    elide: Text.ElideRight
+                }
             }
         }
     }

@@ -27,7 +27,7 @@ Item {
         y: Math.round(steps.circle / 2) - 1
         width: 2 * row.cell
         height: 2
-        color: "#c3cad3"
+        color: Look.separator
     }
 
     Row {
@@ -55,23 +55,21 @@ Item {
                     width: steps.circle
                     height: width
                     radius: width / 2
-                    color: step.isCurrent ? step.modelData.tint : "#f4f5f7"
-                    border { width: step.isCurrent ? 0 : 2; color: "#c3cad3" }
+                    color: step.isCurrent ? step.modelData.tint : Look.screen
+                    border { width: step.isCurrent ? 0 : 2; color: Look.separator }
 
                     SymbolView {
                         anchors.centerIn: parent
                         name: step.modelData.screen
-                        color: step.isCurrent ? "white" : "#5b6675"
+                        color: step.isCurrent ? "white" : Look.quietText
                     }
                 }
 
-                Text {
+                WrappedText {
                     width: parent.width
                     horizontalAlignment: Text.AlignHCenter
                     text: step.modelData.text
-                    textFormat: Text.PlainText
-                    wrapMode: Text.Wrap
-                    color: step.isCurrent ? "#111820" : "#4a5563"
+                    color: step.isCurrent ? Look.text : Look.quietText
                     font { pixelSize: Look.body; bold: step.isCurrent }
                 }
             }

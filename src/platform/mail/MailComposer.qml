@@ -85,7 +85,7 @@ FocusScope {
                 textFormat: Text.PlainText
                 wrapMode: Text.Wrap
                 font { pixelSize: Look.body; bold: true }
-                color: "#9a3412"
+                color: Look.destructive
 
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text

@@ -30,6 +30,6 @@ Rectangle {
         wrapMode: Text.Wrap
         horizontalAlignment: Text.AlignHCenter
         color: "white"
-        font { pixelSize: Look.callout; bold: true }
+        font { family: Look.family; pixelSize: Look.callout; bold: true }
     }
 }
