@@ -9,6 +9,9 @@
 
 namespace tarnwick {
 
+// Of a file that is read whole.
+inline constexpr std::int64_t largestText = 64 << 20;  // bytes
+
 // The file calls that operations make. Nothing throws, and after a failure errno holds the reason:
 // most callers do not even look at the result. Any thread. Seams, so that tests can use another
 // root or inject faults, and a rehearsal can read without writing.

@@ -39,7 +39,7 @@ bool hasNoInodes(const fs::path& mountPoint) {
 
 constexpr const char* noInodesLeftOn = "no inodes left on ";
 
-std::string reasonText(const fs::path& path, int error) {
+std::string reasonText(const fs::path& path, std::string_view verb, int error) {
     const fs::path mountPoint = mountPointOf(path);
     switch (error) {
         case EROFS:
@@ -52,7 +52,7 @@ std::string reasonText(const fs::path& path, int error) {
         case ENOTSUP:
             return "it is no regular file";
         case EFBIG:
-            return "it is larger than 64 MB";
+            return verb == "read" ? "it is larger than 64 MB" : std::strerror(error);
         case EILSEQ:
             return "it is not UTF-8 text";
         default:
@@ -63,7 +63,8 @@ std::string reasonText(const fs::path& path, int error) {
 }  // namespace
 
 std::string failureText(std::string_view path, std::string_view verb, int error) {
-    return std::string(path) + " cannot be " + std::string(verb) + ": " + reasonText(path, error);
+    return std::string(path) + " cannot be " + std::string(verb) + ": " +
+           reasonText(path, verb, error);
 }
 
 std::string clarified(std::string words, std::string_view path) {

@@ -34,7 +34,8 @@ inline constexpr std::string_view packageStates = "/var/lib/dpkg/status";
 
 // Scratch space: staging copies that may not lie in the safeguard folder, unpacked archives.
 inline constexpr std::string_view scratchFolder = "/var/tmp/";
-// What an archive unpacks to: all paths in an archive begin with "var/".
+// How all paths in an archive begin, and what they unpack to.
+inline constexpr std::string_view archivedTree = "var/";
 inline constexpr std::string_view unpackedTree = "/var/tmp/var";
 
 // The partition whose size and free space are shown.

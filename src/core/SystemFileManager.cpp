@@ -23,7 +23,6 @@ namespace {
 
 // What a file may carry: nothing that lends the rights of its owner.
 constexpr mode_t permissions = 0777;
-constexpr std::size_t largestText = 64 << 20;  // bytes
 
 std::optional<struct stat> statusOf(const std::string& path) {
     struct stat status = {};
@@ -45,13 +44,13 @@ bool canBeRead(int descriptor) {
         return false;
     if (!S_ISREG(status.st_mode))
         return failed(ENOTSUP);
-    return static_cast<std::size_t>(status.st_size) <= largestText || failed(EFBIG);
+    return status.st_size <= largestText || failed(EFBIG);
 }
 
 std::optional<std::string> readAll(int descriptor) {
     std::string text;
     char buffer[65536];
-    while (text.size() <= largestText) {
+    while (static_cast<std::int64_t>(text.size()) <= largestText) {
         const ssize_t count = ::read(descriptor, buffer, sizeof buffer);
         if (count == 0)
             return text;

@@ -20,9 +20,9 @@ bool isSavedList(std::string_view path) {
 // Whether a copy failed because of what was to be copied.
 bool isReadingFault(int error, const std::string& source) {
     struct stat status = {};
-    if (error == ENOENT)
-        return ::lstat(source.c_str(), &status) != 0;
-    return error == ELOOP || error == ENOTSUP || error == EFBIG;
+    if (::lstat(source.c_str(), &status) != 0)
+        return error == ENOENT;
+    return error == ELOOP || error == ENOTSUP || (error == EFBIG && status.st_size > largestText);
 }
 
 }  // namespace

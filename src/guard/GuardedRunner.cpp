@@ -10,6 +10,7 @@
 #include "core/Reasons.h"
 #include "core/SafeguardPaths.h"
 #include "core/SystemFileManager.h"
+#include "guard/ArchiveEntries.h"
 #include "guard/ForeignLinks.h"
 #include "guard/LinksInTheWay.h"
 #include "guard/PartialCopies.h"
@@ -84,6 +85,7 @@ int GuardedRunner::run(const std::string& line) {
     if (const auto link = foreignLinkIn(root_, folderOfResult(words))) {
         if (!hasNothingToWorkOn(words))
             faults_(textOfForeignLink(*link));
+        noteCopy(words, notRun);
         return notRun;
     }
     if (const auto list = words.after(">"))
@@ -96,10 +98,8 @@ int GuardedRunner::run(const std::string& line) {
 int GuardedRunner::runInPlace(const std::string& line) {
     places_.clearForeign();
     const LineWords words(line);
-    if (words.program() == "unzip" && isNoFile(root_ + words.operandOf("-d"))) {
-        faults_(failureText(words.operandOf("-d"), "read", ENOTSUP));
+    if (words.program() == "unzip" && !mayBeUnpacked(words.operandOf("-d")))
         return notRun;
-    }
     const bool isIdle = hasNothingToWorkOn(words);
     if (copiesBack(words) && !isIdle)
         removeLinksInTheWay(root_ + words.operand(), root_ + copyOf(words));
@@ -107,6 +107,7 @@ int GuardedRunner::runInPlace(const std::string& line) {
     runner_.takeLastWords();
     const auto begin = std::filesystem::file_time_type::clock::now();
     const int status = runner_.run(line);
+    noteCopy(words, status);
     if (status == 0)
         return status;
     discardPartialResult(words, status, begin);
@@ -116,6 +117,22 @@ int GuardedRunner::runInPlace(const std::string& line) {
     if (!isIdle && !mayFail(words, status))
         report(line, status);
     return status;
+}
+
+void GuardedRunner::noteCopy(const LineWords& words, int status) {
+    if (words.program() == "cp")
+        lastCopyFailed_ = status != 0;
+}
+
+bool GuardedRunner::mayBeUnpacked(const std::string& archive) const {
+    if (isNoFile(root_ + archive)) {
+        faults_(failureText(archive, "read", ENOTSUP));
+        return false;
+    }
+    const auto fault = faultOfEntries(root_ + archive);
+    if (fault)
+        faults_(archive + " is not unpacked: " + *fault);
+    return !fault;
 }
 
 // What is there in part would replace what is whole.
@@ -164,11 +181,12 @@ void GuardedRunner::report(const std::string& line, int status) {
 // The step before has failed then, and was reported: nothing was copied, or unpacked.
 bool GuardedRunner::hasNothingToWorkOn(const LineWords& words) const {
     const std::string program = words.program();
-    if (!copiesBack(words) && program != "zip" && program != "chown")
+    const bool lacksCopy = program == "zip" && lastCopyFailed_;
+    if (!copiesBack(words) && !lacksCopy && program != "chown")
         return false;
     struct stat status = {};
     const std::string& subject = copiesBack(words) ? words.operand() : words.last();
-    return ::lstat((root_ + subject).c_str(), &status) != 0;
+    return ::lstat((root_ + withoutSlashAtEnd(subject)).c_str(), &status) != 0;
 }
 
 }  // namespace tarnwick

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <filesystem>
 #include <string>
 
@@ -23,6 +24,8 @@ public:
 private:
     int runInPlace(const std::string& line);
     int runIntoList(const std::string& line, const std::string& list);
+    void noteCopy(const LineWords& words, int status);
+    bool mayBeUnpacked(const std::string& archive) const;
     int runFromList(const std::string& line, const std::string& list);
     void discardPartialResult(const LineWords& words, int status,
                               std::filesystem::file_time_type begin) const;
@@ -33,6 +36,7 @@ private:
     const ScratchPlaces& places_;
     const FaultListener& faults_;
     const std::string root_;
+    std::atomic<bool> lastCopyFailed_ = false;
 };
 
 }  // namespace tarnwick

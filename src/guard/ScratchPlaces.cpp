@@ -23,6 +23,15 @@ bool isForeign(const std::string& path) {
            (S_ISLNK(status.st_mode) || status.st_uid != ::geteuid());
 }
 
+// The copy of a data set that is a link. In the folder of all users, a line would delete through
+// it.
+bool isCopiedLink(const std::string& path) {
+    struct stat status = {};
+    return path.find(paths::archiveFolder) != std::string::npos &&
+           ::lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode) && status.st_nlink == 1 &&
+           status.st_uid == ::geteuid();
+}
+
 std::optional<mode_t> modeOfFolder(const std::string& path) {
     struct stat status = {};
     if (::stat(path.c_str(), &status) != 0 || !S_ISDIR(status.st_mode))
@@ -54,7 +63,7 @@ void ScratchPlaces::clear() const {
 
 void ScratchPlaces::clearForeign() const {
     for (const std::string& place : places_)
-        if (isForeign(root_ + place))
+        if (isForeign(root_ + place) && !isCopiedLink(root_ + place))
             remove(place);
 }
 

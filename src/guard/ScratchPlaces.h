@@ -21,7 +21,7 @@ public:
     // Takes away, without following it, whatever stands there: a run that was cut off has left it.
     // The data itself stays, if the place leads to it.
     void clear() const;
-    // The same, of what is a link or another user's.
+    // The same, of what is another user's or a link, unless a copy has made it.
     void clearForeign() const;
     // The same, of what was unpacked.
     void clearUnpacked() const;

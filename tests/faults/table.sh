@@ -102,7 +102,13 @@ fault "hostile names" '(cd $notes && touch -- -rf $'"'"'new\nline'"'"' "\$(reboo
     "save notes" 0 "done" kept
 fault "odd names come back" '(cd $notes && touch -- -rf -@ "\$(reboot)" "; reboot" "a\\b" "[x]" "*" é "$(printf %0255d 0)")
     cp -a $notes /run; tarnwick save notes; rm -r $notes' "restore notes" 0 "done" 'diff -r /run/Notes $notes'
-fault "a folder that is a file" 'rm -r $notes; touch $notes' "save notes" 0 "done" kept
+for kind in touch mkfifo 'ln -s /nowhere'; do
+    fault "$kind for a folder" "rm -r $notes; $kind $notes" "save notes" 1 "Nothing to do" kept
+done
+fault "a data set that is a link" 'mv $notes /var/moved; ln -s /var/moved $notes; touch $notes/new' "save notes" 0 "done" \
+    'kept && unzip -l $archives/Notes.zip | grep -q new && [[ -L $notes && -e /var/moved/new ]]'
+fault "tweak preferences that are a link" 'mv $home/Preferences /var/moved; ln -s /var/moved $home/Preferences' "save tweaks-prefs" 1 \
+    "cannot overwrite" kept
 fault "a folder that is missing" 'rm -r $notes' "save notes" 1 "cannot stat" untouched
 
 # Plain files in the way. One hides no other.
@@ -162,6 +168,9 @@ for planted in '${sources%/*}' '${packages%/*}' '$archives' '$safe' '$home'; do
     fault "mobile planted a link for $planted" "chown mobile \$safe; mv $planted /var/moved; as mobile ln -s /etc/apt $planted; cp -a /etc/apt /run" \
         "save sources packages notes" 1 "is not followed" 'diff -r /run/apt /etc/apt'
 done
+fault "mobile made up an archive, for a link of nobody" 'mkdir -p /run/x/links /run/x/var; touch /run/x/links/new /run/x/var/new; rm $archives/Notes.zip
+    (cd /run/x && /usr/bin/zip -qr $archives/Notes.zip .); as nobody ln -s /etc /var/tmp/links' "restore notes" 1 \
+    "no save has put" '[[ ! -e /etc/new ]] && same_notes'
 fault "mobile has the folder elsewhere" 'mv $safe /var/mobile; chown mobile /var/mobile/Tarnwick; as mobile ln -s /var/mobile/Tarnwick $safe' \
     "save sources notes" 0 "done" kept
 
@@ -236,7 +245,7 @@ fault "a pipe in the way of a restore" 'rm $notes/notes.sqlite; as mobile mkfifo
 for verb in check "restore notes --then nothing"; do
     fault "an archive is a pipe: $verb" 'rm $archives/Notes.zip; mkfifo $archives/Notes.zip' "$verb" 1 "" true
 done
-fault "no file may be written" 'ulimit -f 0' "save notes packages" 1 "" untouched
+fault "no file may be written" 'ulimit -f 0' "save sources packages notes" 1 "sources.list cannot be written: File too large" untouched
 
 # What a person has stays.
 for verb in "save notes" "save photos" "restore sources"; do

@@ -195,7 +195,7 @@ Entries literalQuestions() {
 void setScene(const std::string& scene, const TemporaryFolder& folder, RecordingRunner& runner) {
     const bool isPlain = scene.find(',') == std::string::npos;
     if (scene.ends_with(", saved") || (isPlain && scene.starts_with("restore")))
-        folder.putEveryArchive();
+        folder.putEveryArchive("zip");
     if (!isPlain)
         return;
     folder.put(ownList, "deb");

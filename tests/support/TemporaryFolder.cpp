@@ -41,12 +41,12 @@ void TemporaryFolder::clear() const {
     fs::create_directory(path_);
 }
 
-void TemporaryFolder::putEveryArchive() const {
+void TemporaryFolder::putEveryArchive(const std::string& content) const {
     for (const std::string_view folder : paths::safeguardFolders)
         fs::create_directories(path_ + std::string(folder));
     for (const BackupItem& item : ItemCatalogue())
         for (const std::string& archive : item.archivePaths())
-            put(archive, "zip");
+            put(archive, content);
 }
 
 }  // namespace tarnwick::testing

@@ -19,7 +19,8 @@ public:
     void put(const std::string& name, const std::string& content) const;
     void clear() const;
     // An archive for each item, and the folders that they are in.
-    void putEveryArchive() const;
+    void putEveryArchive(const std::string& content = emptyArchive()) const;
+    static std::string emptyArchive() { return "PK\5\6" + std::string(18, '\0'); }
 
 private:
     std::string path_;
