@@ -29,12 +29,12 @@ public:
 class ProgramWindow : public ::testing::Test {
 protected:
     // Other queues than the stepped ones must keep the diary to one thread at a time.
-    explicit ProgramWindow(TaskQueues* otherQueues = nullptr)
-        : services{
-              catalogue, runner,
-              files,     otherQueues != nullptr ? *otherQueues : static_cast<TaskQueues&>(queues),
-              gate,      window.alerts(),
-              mailer,    log} {
+    explicit ProgramWindow(std::unique_ptr<TaskQueues> others = nullptr)
+        : otherQueues(std::move(others)),
+          services{catalogue, runner,
+                   files,     otherQueues ? *otherQueues : static_cast<TaskQueues&>(queues),
+                   gate,      window.alerts(),
+                   mailer,    log} {
         qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
             if (type == QtWarningMsg && !text.startsWith("QStandardPaths"))
                 ADD_FAILURE() << text.toStdString();
@@ -87,6 +87,7 @@ protected:
     SharedRun run{guard, folder.path() + "/lock"};
     TaskGate gate{run};
     SteppedQueues queues{diary};
+    const std::unique_ptr<TaskQueues> otherQueues;
     RecordingMailer mailer;
     KeptLog log;
     Window window;

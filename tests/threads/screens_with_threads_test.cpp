@@ -12,7 +12,7 @@ namespace {
 // With the program's threads.
 class ThreadedScreensTest : public ProgramWindow {
 protected:
-    ThreadedScreensTest() : ProgramWindow(&threads) {}
+    ThreadedScreensTest() : ProgramWindow(std::make_unique<PlatformQueues>()) {}
 
     // The text of the alert that comes, which is then answered.
     std::string awaitAlert(int index) {
@@ -20,8 +20,6 @@ protected:
             QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
         return answerAlert(index);
     }
-
-    PlatformQueues threads;
 };
 
 TEST_F(ThreadedScreensTest, ATaskCoversItsScreenAndTellsItsResult) {
