@@ -1,4 +1,5 @@
 find_package(GTest REQUIRED)
+find_package(ZLIB REQUIRED)
 find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 include(GoogleTest)
 
@@ -35,7 +36,7 @@ tarnwick_test(zip_test "zip_archive;GTest::gtest_main" zip)
 tarnwick_test(ui_test window_support app platform ui)
 target_precompile_headers(ui_test PRIVATE <gtest/gtest.h> <QQuickItem> <QQmlComponent> <QTest>)
 # What crosses threads, also for the thread sanitizer.
-tarnwick_test(thread_test "window_support;zip_archive;PkgConfig::ISAL" threads)
+tarnwick_test(thread_test "window_support;zip_archive;comparison;ZLIB::ZLIB;PkgConfig::ISAL" threads)
 if(TARNWICK_SANITIZE STREQUAL thread)
     target_sources(thread_test PRIVATE threads/ThreadSanitizer.cpp)
 endif()

@@ -84,6 +84,10 @@ public:
         session_.output().problem(what + "not ready for a wipe:", {{"verdict", "not ready"}});
         for (const auto& [text, fields] : problems_)
             session_.output().problem(text, fields);
+        if (!toBeSaved_.empty()) {
+            const std::string line = "tarnwick save " + joined(toBeSaved_, " ");
+            session_.output().problem("to be run: " + line, {{"run", line}});
+        }
         session_.feedback().noteProblem();
     }
 
@@ -136,10 +140,14 @@ private:
         if (!archive.empty())
             fields.emplace_back("archive", archive);
         problems_.emplace_back(text, fields);
+        // A new save is of no use where nothing can be tested or read.
+        if (verdict != "cannot be tested" && (toBeSaved_.empty() || toBeSaved_.back() != word))
+            toBeSaved_.push_back(word);
     }
 
     Session& session_;
     std::vector<std::pair<std::string, JsonFields>> problems_;
+    Words toBeSaved_;
 };
 
 void checkAll(Session& session, const Words& words) {

@@ -1,5 +1,7 @@
 #include <algorithm>
+#include <array>
 #include <cerrno>
+#include <utility>
 
 #include "cli/Commands.h"
 #include "cli/Words.h"
@@ -55,7 +57,7 @@ void tellFile(Session& session, const BackupItem& item, const std::string& archi
                              {"effect", effect}});
 }
 
-// Of an archive that is not there, or cannot be read.
+// Of an archive that is not there or cannot be read.
 std::string textOfError(const ArchiveComparison& comparison) {
     const std::string name = paths::nameOf(comparison.archive);
     if (comparison.archiveError == ENOENT)
@@ -65,41 +67,63 @@ std::string textOfError(const ArchiveComparison& comparison) {
     return failureText(name, "read", comparison.archiveError);
 }
 
-void tellSummary(Session& session, const BackupItem& item, const ArchiveComparison& comparison) {
-    const auto counts = comparison.counts();
-    std::vector<std::string> parts;
-    JsonFields fields = {{"item", kebabCase(item.key)},
-                         {"archive", paths::nameOf(comparison.archive)}};
-    for (std::size_t state = 0; state < fileStates; ++state) {
-        fields.emplace_back(wordsOfStates[state].key, static_cast<std::int64_t>(counts[state]));
-        if (counts[state] > 0)
-            parts.push_back(std::to_string(counts[state]) + " " + wordsOfStates[state].ofMany);
-    }
-    if (comparison.archiveError != 0)
-        parts.push_back(textOfError(comparison));
-    const std::string name = item.archives.size() == 1
-                                 ? kebabCase(item.key)
-                                 : kebabCase(item.key) + ", " + paths::nameOf(comparison.archive);
-    session.output().result(name + ": " + (parts.empty() ? "nothing" : joined(parts, ", ")),
-                            fields);
+bool isMissing(const ArchiveComparison& comparison) {
+    return comparison.archiveError == ENOENT;
 }
 
-void tell(Session& session, const BackupItem& item, const ArchiveComparison& comparison) {
-    const bool isMissing = comparison.archiveError == ENOENT;
-    const bool isUnneeded = isMissing && !comparison.hasSource;
-    if (comparison.archiveError != 0 && !isMissing) {
-        session.report(kebabCase(item.key) + ": " + textOfError(comparison));
-        return;
+// The line of an item, of all its archives.
+class Summary {
+public:
+    explicit Summary(std::string word) : word_(std::move(word)) {}
+
+    void add(const ArchiveComparison& comparison) {
+        const auto counts = comparison.counts();
+        for (std::size_t state = 0; state < fileStates; ++state)
+            counts_[state] += counts[state];
+        if (isMissing(comparison) && comparison.hasSource)
+            missing_.push_back(textOfError(comparison));
+        isUnknown_ = isUnknown_ || (comparison.archiveError != 0 && !isMissing(comparison));
     }
-    if (session.arguments().verbose || session.arguments().json)
-        for (const ComparedFile& file : comparison.files)
-            tellFile(session, item, paths::nameOf(comparison.archive), file);
-    if (isUnneeded)
-        session.output().result(kebabCase(item.key) + ": nothing to save",
-                                {{"item", kebabCase(item.key)}});
-    else
-        tellSummary(session, item, comparison);
-    if (comparison.counts()[static_cast<std::size_t>(FileState::Unreadable)] > 0)
+
+    bool hasUnreadable() const {
+        return counts_[static_cast<std::size_t>(FileState::Unreadable)] > 0;
+    }
+
+    void tell(Output& output) const {
+        std::vector<std::string> parts;
+        JsonFields fields = {{"item", word_}};
+        for (std::size_t state = 0; state < fileStates; ++state) {
+            fields.emplace_back(wordsOfStates[state].key,
+                                static_cast<std::int64_t>(counts_[state]));
+            if (counts_[state] > 0)
+                parts.push_back(std::to_string(counts_[state]) + " " + wordsOfStates[state].ofMany);
+        }
+        parts.insert(parts.end(), missing_.begin(), missing_.end());
+        if (parts.empty() && isUnknown_)
+            return;
+        output.result(word_ + ": " + (parts.empty() ? "nothing to save" : joined(parts, ", ")),
+                      fields);
+    }
+
+private:
+    const std::string word_;
+    std::array<std::size_t, fileStates> counts_ = {};
+    std::vector<std::string> missing_;
+    bool isUnknown_ = false;  // as an archive could not be read
+};
+
+void compareItem(Session& session, const BackupItem& item) {
+    Summary summary(kebabCase(item.key));
+    for (const ArchiveComparison& comparison : compare(item, session.world().root)) {
+        if (comparison.archiveError != 0 && !isMissing(comparison))
+            session.report(kebabCase(item.key) + ": " + textOfError(comparison));
+        else if (session.arguments().verbose || session.arguments().json)
+            for (const ComparedFile& file : comparison.files)
+                tellFile(session, item, paths::nameOf(comparison.archive), file);
+        summary.add(comparison);
+    }
+    summary.tell(session.output());
+    if (summary.hasUnreadable())
         session.feedback().noteProblem();
 }
 
@@ -109,8 +133,7 @@ ExitStatus compareFiles(Session& session, const std::vector<std::string>& words)
     const auto work = [&] {
         for (const BackupItem& item : session.catalogue())
             if (words.empty() || std::ranges::find(words, kebabCase(item.key)) != words.end())
-                for (const ArchiveComparison& comparison : compare(item, session.world().root))
-                    tell(session, item, comparison);
+                compareItem(session, item);
     };
     return session.perform({.work = work});
 }

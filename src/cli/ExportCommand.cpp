@@ -47,14 +47,16 @@ void mentionStrangers(Session& session, const std::vector<std::string>& names) {
                 session.output().complaint(name + " is not part of a copy");
 }
 
-// Whether the file is one to be sent. Reports why not.
+// Reports what is there but cannot be read.
+bool isReadable(Session& session, const OutgoingFile& file) {
+    if (file.error() != 0 && file.error() != ENOENT)
+        session.report(failureText(pathOf(file.facts().name), "read", file.error()));
+    return file.error() == 0;
+}
+
+// Reports why it is not.
 bool isWhole(Session& session, const OutgoingFile& file) {
     const std::string& name = file.facts().name;
-    if (file.error() != 0) {
-        if (file.error() != ENOENT)
-            session.report(failureText(pathOf(name), "read", file.error()));
-        return false;
-    }
     if (!isArchiveName(name) || session.arguments().noCheck)
         return true;
     const std::string verdict = verdictOn(session, pathOf(name));
@@ -63,14 +65,19 @@ bool isWhole(Session& session, const OutgoingFile& file) {
     return verdict == "good";
 }
 
+// Whether the file is one to be sent; it has its digest then.
+bool isReady(Session& session, OutgoingFile& file) {
+    if (!isReadable(session, file) || !isWhole(session, file))
+        return false;
+    file.takeDigest();
+    return isReadable(session, file);
+}
+
 std::list<OutgoingFile> collect(Session& session, const std::vector<std::string>& names) {
     std::list<OutgoingFile> files;
     for (const std::string& name : names) {
-        OutgoingFile& file =
-            files.emplace_back(session.world().root + std::string(paths::safeguardRoot), name);
-        if (isWhole(session, file))
-            file.takeDigest();
-        else
+        files.emplace_back(session.world().root + std::string(paths::safeguardRoot), name);
+        if (!isReady(session, files.back()))
             files.pop_back();
     }
     return files;

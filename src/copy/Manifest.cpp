@@ -72,9 +72,17 @@ std::string faultOf(const std::vector<CopiedFile>& files, const std::vector<std:
     return {};
 }
 
+// Without what is nested deeper than a manifest, as to write that down again could take any depth
+// of the stack.
+Json parsed(const std::string& text) {
+    constexpr int deepest = 3;
+    return Json::parse(
+        text, [](int depth, Json::parse_event_t, const Json&) { return depth <= deepest; });
+}
+
 std::variant<Manifest, std::string> manifestFromText(const std::string& text,
                                                      const std::vector<std::string>& names) {
-    Json json = Json::parse(text);
+    Json json = parsed(text);
     if (const int found = json.at("format").get<int>(); found != format)
         return "it has format " + std::to_string(found) + ", which this version does not know";
     const std::string digest = json.at("sha256").get<std::string>();

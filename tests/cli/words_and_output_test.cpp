@@ -29,6 +29,11 @@ TEST(ProgressLine, ShowsItemPlaceAndTimeWithinTheWidth) {
         .label = "Backup in progress...", .item = "calendar", .place = 3, .count = 11};
     EXPECT_EQ(progressText(progress, seconds(3661), 80),
               "Backup in progress... calendar (3/11) 61:01");
+    const Progress transfer = {
+        .label = "Exporting...", .bytesDone = 30 << 20, .bytes = std::uint64_t(90) << 20};
+    EXPECT_EQ(progressText(transfer, seconds(15), 80),
+              "Exporting... 33 %, 2.00 MB/s, 0:30 left, 0:15");
+    EXPECT_EQ(progressText(transfer, seconds(0), 80), "Exporting... 33 % 0:00");
     EXPECT_EQ(progressText(progress, seconds(0), 10), "Backup in");
     EXPECT_EQ(progressText(progress, seconds(0), 0), "");
 }

@@ -181,7 +181,8 @@ TEST_F(OnDevice, AWipeIsAnsweredForWithYesOrWithAllThatIsInItsWay) {
     EXPECT_EQ(tarnwick("check"), NotAllDone);
     EXPECT_EQ(tarnwick.problems(),
               "not ready for a wipe:\nnotes: out of date: 1 changed\nSafari.zip: missing\n"
-              "sources: out of date: it lacks deb two\npackages: out of date: it lacks zip\n");
+              "sources: out of date: it lacks deb two\npackages: out of date: it lacks zip\n"
+              "to be run: tarnwick save notes safari sources packages\n");
     EXPECT_EQ(tarnwick("check tweaks-prefs"), AllDone);
     EXPECT_EQ(tarnwick.results(), "tweaks-prefs: saved\ntweaks-prefs: ready for a wipe\n");
     tarnwick.runner.status = 127 << 8;

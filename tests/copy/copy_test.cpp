@@ -278,6 +278,10 @@ TEST_F(Copies, WhatNoSafeguardFolderHasIsRefused) {
          {std::string(), std::string("PK"), noise(9999), std::string(99999, '\0'),
           HostileArchive().add(manifestName, "[[[[").bytes(),
           HostileArchive().add(manifestName, R"({"format":2})").bytes(),
+          HostileArchive()
+              .add(manifestName, R"({"format":1,"sha256":"","a":)" + std::string(30000, '[') +
+                                     std::string(30000, ']') + "}")
+              .bytes(),
           HostileArchive().add(manifestName, std::string(99999, ' ')).bytes()}) {
         EXPECT_EQ(import(nonsense), NotAllDone);
         EXPECT_EQ(tree(), before);

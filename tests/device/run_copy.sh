@@ -31,7 +31,8 @@ tarnwick "$old" save sources packages all >/dev/null
 device boot "$old" sqlite3 "$note" "CREATE TABLE later (text TEXT); INSERT INTO later VALUES ('milk');"
 same "a check says what is out of date" "not ready for a wipe:
 notes: out of date: 1 changed
-status 1" "$(tarnwick "$old" check | last_lines 3)"
+to be run: tarnwick save notes
+status 1" "$(tarnwick "$old" check | last_lines 4)"
 tarnwick "$old" save notes >/dev/null
 same "and that all is ready" "ready for a wipe
 status 0" "$(tarnwick "$old" check | last_lines 2)"

@@ -137,6 +137,8 @@ fault "archives are missing" 'rm $archives/{SMS,Notes}.zip' check 1 $'SMS.zip: m
 fault "garbage: save" 'seq 999 >$archives/Notes.zip' "save notes" 0 "done" 'whole_backup && cmp <(seq 999) $archives/Notes.zip.damaged'
 tool unzip missing
 fault "nothing can test archives" : check 1 "cannot be tested" untouched
+rm "$workspace/build/libexec/tarnwick/tarnwick"
+fault "the program for archives is missing" : check 1 "cannot be started" untouched
 tool unzip missing
 fault "nor before they are exported" : "export /run/copy" 1 "cannot be tested" untouched
 fault "one archive spoilt, another restored" ': >$archives/SMS.zip' "restore messages notes" 1 "Notes Restoration: Restoration done !" same_notes
