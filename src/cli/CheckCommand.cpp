@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 
 #include "cli/Commands.h"
 #include "cli/SafeguardState.h"
@@ -101,21 +102,22 @@ private:
             return add(word, name + ": " + verdict, verdict, name);
         if (comparison.archiveError != 0)
             return add(word, name + ": damaged", "damaged", name);
-        const std::string faults = faultsOf(comparison);
-        if (!faults.empty())
-            add(word, word + ": out of date: " + faults, "out of date", name);
+        checkFiles(word, name, comparison.counts());
     }
 
-    static std::string faultsOf(const ArchiveComparison& comparison) {
-        const auto counts = comparison.counts();
-        const auto count = [&](FileState state) {
-            return counts.at(static_cast<std::size_t>(state));
+    void checkFiles(const std::string& word, const std::string& archive,
+                    const std::array<std::size_t, fileStates>& counts) {
+        const auto count = [&](FileState state, const std::string& what) {
+            return countText(counts.at(static_cast<std::size_t>(state)), what);
         };
-        Words faults = {countText(count(FileState::Changed), "changed"),
-                        countText(count(FileState::NotSaved), "not saved"),
-                        countText(count(FileState::Unreadable), "unreadable")};
-        std::erase(faults, "");
-        return joined(faults, ", ");
+        Words differences = {count(FileState::Changed, "changed"),
+                             count(FileState::NotSaved, "not saved")};
+        std::erase(differences, "");
+        if (!differences.empty())
+            add(word, word + ": out of date: " + joined(differences, ", "), "out of date", archive);
+        const std::string unreadable = count(FileState::Unreadable, "cannot be read");
+        if (!unreadable.empty())
+            add(word, word + ": " + unreadable, "unreadable", archive);
     }
 
     static std::string someOf(Words names) {
@@ -141,7 +143,8 @@ private:
             fields.emplace_back("archive", archive);
         problems_.emplace_back(text, fields);
         // A new save is of no use where nothing can be tested or read.
-        if (verdict != "cannot be tested" && (toBeSaved_.empty() || toBeSaved_.back() != word))
+        const bool helps = verdict != "cannot be tested" && verdict != "unreadable";
+        if (helps && (toBeSaved_.empty() || toBeSaved_.back() != word))
             toBeSaved_.push_back(word);
     }
 

@@ -20,7 +20,7 @@ on_phone tarnwick save notes springboard >/dev/null
 same "it says that it needs root" "tarnwick: save needs root
 status 4" "$(device boot "$phone" --user mobile bash -c 'tarnwick save notes 2>&1; echo "status $?"')"
 same "but anybody may look" "SpringBoard.zip: good" \
-    "$(device boot "$phone" --user mobile tarnwick check springboard)"
+    "$(device boot "$phone" --user mobile tarnwick check --archives-only springboard)"
 same "it works without any stream" 0 "$(on_phone bash -c 'tarnwick save notes <&- >&- 2>&-; echo $?')"
 same "and with a reader that went away" 0 \
     "$(on_phone bash -c 'tarnwick save all calendar | true; echo "${PIPESTATUS[0]}"')"
@@ -29,11 +29,11 @@ status 1" "$(on_phone bash -c 'tarnwick list 2>&1 >/dev/full; echo "status $?"')
 same "and from any folder" "SpringBoard Backup: Backup done !" \
     "$(on_phone bash -c 'cd /usr; rm "$1/SpringBoard.zip"; tarnwick save springboard' - "$library")"
 same "options for zip in the environment do not count" "SpringBoard.zip: good" \
-    "$(on_phone env ZIPOPT=-e ZIP="-x *" UNZIP=-Z UNZIPOPT=-Z bash -c 'tarnwick save springboard >/dev/null; tarnwick check springboard')"
+    "$(on_phone env ZIPOPT=-e ZIP="-x *" UNZIP=-Z UNZIPOPT=-Z bash -c 'tarnwick save springboard >/dev/null; tarnwick check --archives-only springboard')"
 same "what the commands print is shown on demand" 1 "$(on_phone tarnwick save notes --verbose 2>&1 | grep -c notes.sqlite)"
 
 same "a no at the terminal changes nothing" "SpringBoard.zip: good" \
-    "$(at_terminal n tarnwick remove backups >/dev/null; on_phone tarnwick check springboard)"
+    "$(at_terminal n tarnwick remove backups >/dev/null; on_phone tarnwick check --archives-only springboard)"
 at_terminal y tarnwick restore springboard >/dev/null
 same "a yes to the offer resprings" 1 "$(times_logged respring)"
 check "the running item is shown" grep -q 'messages (1/1) 0:0' <<<"$(at_terminal - tarnwick save messages)"
@@ -41,6 +41,6 @@ check "the running item is shown" grep -q 'messages (1/1) 0:0' <<<"$(at_terminal
 on_phone bash -c 'cd "$1"; head -c 300 Notes.zip >half; mv half Notes.zip; : >SMS.zip' - "$library"
 same "damaged archives are named" "SMS.zip: damaged
 Notes.zip: damaged
-status 1" "$(on_phone bash -c 'tarnwick check 2>&1 >/dev/null; echo "status $?"')"
+status 1" "$(on_phone bash -c 'tarnwick check --archives-only 2>&1 >/dev/null; echo "status $?"')"
 at_terminal y tarnwick remove backups >/dev/null
 same "a yes removes the archives" "" "$(on_phone ls "$library")"

@@ -40,7 +40,7 @@ list 0
 status 0" "$(during_save 'tarnwick save notes; echo "second $?"
     tarnwick list >/dev/null; echo "list $?"; flock -u 8; wait $save; echo "status $?"' 2>&1)"
 same "the first one went on to its end" "DCIM.zip: good
-PhotoData.zip: good" "$(on_phone tarnwick check 2>/dev/null | grep -v 'missing$')"
+PhotoData.zip: good" "$(on_phone tarnwick check --archives-only 2>/dev/null | grep -v 'missing$')"
 
 # A job of an interactive shell, as only such a shell continues what it stopped.
 suspended() {

@@ -14,7 +14,7 @@ not_archives() {
 }
 
 not_good() {
-    on_phone tarnwick check 2>&1 | grep -v ': good$' || true
+    on_phone tarnwick check --archives-only 2>&1 | grep -v ': good$' || true
 }
 
 times_logged() {

@@ -79,7 +79,7 @@ export PYTHONDONTWRITEBYTECODE=1
 start_buses
 open_window
 /usr/bin/python3 "$repository/tests/window/smoke.py" "$phone" || { cat "$workspace/output"; exit 1; }
-same "the archive is good" "Notes.zip: good" "$(on_phone tarnwick check notes)"
+same "the archive is good" "Notes.zip: good" "$(on_phone tarnwick check --archives-only notes)"
 xdotool search --onlyvisible --class Tarnwick windowminimize
 window_ends "minimising the window ends the program by a signal"
 check "the mail that was being written is kept" grep -q '^To: me@example.org' -r "$phone/var/mobile/Library/Mail/Drafts/cur"
