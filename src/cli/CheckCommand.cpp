@@ -87,7 +87,7 @@ public:
             session_.output().problem(text, fields);
         if (!toBeSaved_.empty()) {
             const std::string line = "tarnwick save " + joined(toBeSaved_, " ");
-            session_.output().problem("to be run: " + line, {{"run", line}});
+            session_.output().problem("to be run: " + line, {{"again", line}});
         }
         session_.feedback().noteProblem();
     }
@@ -118,16 +118,6 @@ private:
         const std::string unreadable = count(FileState::Unreadable, "cannot be read");
         if (!unreadable.empty())
             add(word, word + ": " + unreadable, "unreadable", archive);
-    }
-
-    static std::string someOf(Words names) {
-        constexpr std::size_t mostNames = 10;
-        if (names.size() > mostNames) {
-            const std::size_t more = names.size() - mostNames;
-            names.resize(mostNames);
-            names.push_back(std::to_string(more) + " more");
-        }
-        return joined(names, ", ");
     }
 
     void tellGood(const std::string& word, const std::string& verdict) {
@@ -163,6 +153,7 @@ void checkAll(Session& session, const Words& words) {
     WipeCheck check(session);
     for (const BackupItem* item : plan)
         check.check(*item);
+    session.feedback().begin("");
     if (words.empty())
         for (const SavedList& list : compareSavedLists(session.files()))
             check.check(list);

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "cli/Commands.h"
+#include "cli/QuotedName.h"
 #include "cli/Words.h"
 #include "compare/Comparison.h"
 #include "core/JoinedText.h"
@@ -24,11 +25,11 @@ struct StateWords {
 };
 
 constexpr StateWords wordsOfStates[fileStates] = {
-    {"same", "the same", "same", "stays"},
-    {"changed", "changed since the save", "changed", "would be overwritten"},
-    {"not saved", "not saved", "notSaved", "stays"},
-    {"only in the archive", "only in the archive", "onlyArchived", "would come back"},
-    {"unreadable", "unreadable", "unreadable", "stays"},
+    {"same", "the same", "sameFiles", "stays"},
+    {"changed", "changed since the save", "changedFiles", "would be overwritten"},
+    {"not saved", "not saved", "unsavedFiles", "stays"},
+    {"only in the archive", "only in the archive", "archivedFiles", "would come back"},
+    {"unreadable", "unreadable", "unreadableFiles", "stays"},
 };
 
 const StateWords& wordsOf(FileState state) {
@@ -46,7 +47,7 @@ void tellFile(Session& session, const BackupItem& item, const std::string& archi
               const ComparedFile& file) {
     const auto& words = wordsOf(file.state);
     const std::string effect = comesBack(item) ? words.effect : "no restore changes it";
-    session.output().result(std::string(words.word) + "  " + file.path + "  " + effect,
+    session.output().result(std::string(words.word) + "  " + quotedName(file.path) + "  " + effect,
                             {{"item", kebabCase(item.key)},
                              {"archive", archive},
                              {"path", file.path},
@@ -113,6 +114,7 @@ private:
 };
 
 void compareItem(Session& session, const BackupItem& item) {
+    session.feedback().begin(kebabCase(item.key));
     Summary summary(kebabCase(item.key));
     for (const ArchiveComparison& comparison : compare(item, session.world().root)) {
         if (comparison.archiveError != 0 && !isMissing(comparison))

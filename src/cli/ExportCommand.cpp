@@ -7,6 +7,7 @@
 #include "cli/Commands.h"
 #include "cli/CopyTarget.h"
 #include "cli/CopyWords.h"
+#include "cli/QuotedName.h"
 #include "cli/SafeguardState.h"
 #include "compare/SavedLists.h"
 #include "copy/CopyReader.h"
@@ -44,7 +45,7 @@ void mentionStrangers(Session& session, const std::vector<std::string>& names) {
              session.files().list(folder).value_or(std::vector<std::string>()))
             if (const std::string name = paths::nameOf(folder) + "/" + file;
                 std::ranges::find(names, name) == names.end())
-                session.output().complaint(name + " is not part of a copy");
+                session.output().complaint(quotedName(name) + " is not part of a copy");
 }
 
 // Reports what is there but cannot be read.
@@ -128,7 +129,7 @@ ExitStatus exportToFile(Session& session, const std::string& path) {
 ExitStatus rehearse(Session& session) {
     for (const std::string& name : safeguardNames(session.catalogue()))
         if (session.files().isReadable(pathOf(name)))
-            session.output().result("export: " + pathOf(name), {{"export", pathOf(name)}});
+            session.output().result("export: " + pathOf(name), {{"file", name}});
     return AllDone;
 }
 

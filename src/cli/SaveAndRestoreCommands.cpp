@@ -106,17 +106,11 @@ void rehearseMissingBackups(Session& session, const std::vector<std::string>& wo
 }
 
 void reportMissingPackages(Session& session) {
-    constexpr std::size_t mostNames = 10;
     session.feedback().begin(packagesWord);
-    auto missing = missingPackages(session.files());
+    const auto missing = missingPackages(session.files());
     if (missing.empty())
         return;
-    if (missing.size() > mostNames) {
-        const std::size_t more = missing.size() - mostNames;
-        missing.resize(mostNames);
-        missing.push_back(std::to_string(more) + " more");
-    }
-    session.report("these packages of the list are not installed: " + joined(missing, ", "));
+    session.report("these packages of the list are not installed: " + someOf(missing));
 }
 
 // Whether the space may not do, of which it tells.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/Characters.h"
+#include "core/JoinedText.h"
 
 namespace tarnwick {
 
@@ -51,6 +52,16 @@ std::string actionName(const std::string& verb, const std::string& target,
                        const ItemCatalogue& catalogue) {
     const auto targets = targetsOf(catalogue);
     return verb + std::ranges::find(targets, target, &Target::word)->name;
+}
+
+std::string someOf(std::vector<std::string> names) {
+    constexpr std::size_t mostNames = 10;
+    if (names.size() > mostNames) {
+        const std::size_t more = names.size() - mostNames;
+        names.resize(mostNames);
+        names.push_back(std::to_string(more) + " more");
+    }
+    return joined(names, ", ");
 }
 
 }  // namespace tarnwick

@@ -25,6 +25,9 @@ std::string actionName(const std::string& verb, const std::string& target,
 
 inline constexpr const char* sourcesWord = "sources";
 inline constexpr const char* packagesWord = "packages";
+// The first of the names, for a message, and how many more there are.
+std::string someOf(std::vector<std::string> names);
+
 inline constexpr const char* everyItem = "all";
 
 }  // namespace tarnwick

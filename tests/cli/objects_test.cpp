@@ -28,16 +28,36 @@ TEST(Objects, EachFieldOfAnObjectIsOneThatIsDescribed) {
     tarnwick.folder.putEveryArchive();
     tarnwick.folder.put(savedPackages, "");
     std::filesystem::create_symlink("nowhere", tarnwick.folder.path() + library + "link");
+    tarnwick.folder.put("/var/mobile/Library/Safari/bookmarks", "not saved");
+    std::filesystem::remove(tarnwick.folder.path() + library + "Safari.zip");
     tarnwick.folder.put("sendmail", "#!/bin/sh\ncat >/dev/null\n");
     std::filesystem::permissions(tarnwick.mailerProgram, std::filesystem::perms::owner_all);
     tarnwick.runner.act = [&](const std::string& line) {
         tarnwick.runner.status = line.starts_with("cp -R /var/mobile/Library/Notes") ? 1 << 8 : 0;
     };
-    for (const char* words :
-         {"save sources packages notes accounts", "restore notes springboard", "restore all",
-          "list", "check", "size notes accounts", "storage", "folders", "remove backups", "faq",
-          "help", "--version", "frobnicate", "mail --to me@example.org", "save all --dry-run",
-          "save sources --dry-run", "restore sources --dry-run", "folders --dry-run"}) {
+    for (const char* words : {"save sources packages notes accounts",
+                              "restore notes springboard",
+                              "restore all",
+                              "list",
+                              "check",
+                              "check --archives-only",
+                              "compare",
+                              "export copy",
+                              "import copy",
+                              "export --verify copy",
+                              "size notes accounts",
+                              "storage",
+                              "folders",
+                              "remove backups",
+                              "faq",
+                              "help",
+                              "--version",
+                              "frobnicate",
+                              "mail --to me@example.org",
+                              "save all --dry-run",
+                              "save sources --dry-run",
+                              "restore sources --dry-run",
+                              "folders --dry-run"}) {
         tarnwick(words + std::string(" --json"));
         addNames(tarnwick.results() + tarnwick.problems(), printed);
         tarnwick.folder.put(cache, "deb");
