@@ -32,7 +32,7 @@ RoundedBox {
     readonly property bool hasText: title !== "" || message !== ""
     readonly property int leastRows: 3
     // All buttons are as high as the highest.
-    readonly property real rowHeight: Array.prototype.reduce.call(buttonGrid.children, (highest, button) => Math.max(highest, button.implicitHeight), 0)
+    readonly property real rowHeight: [].reduce.call(buttonGrid.children, (highest, button) => Math.max(highest, button.implicitHeight), 0)
     readonly property bool scrollsButtons: buttonArea.height < buttonGrid.height
 
     // Even, so that two buttons share it in whole points.
