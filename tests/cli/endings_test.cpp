@@ -49,7 +49,7 @@ TEST(Endings, ARunOverAllEndsWithALineForEachItem) {
 TEST(Endings, ARestoreOfAllEndsWithALineForEachItem) {
     CommandLineRun tarnwick;
     for (const char* archive : {"Notes.zip", "SMS.zip", "CallHistory.zip"})
-        tarnwick.folder.put(library + archive, "zip");
+        tarnwick.folder.put(library + archive, TemporaryFolder::emptyArchive());
     tarnwick.runner.act = [&](const std::string& line) {
         tarnwick.runner.status = line.find("SMS.zip") != std::string::npos ? 9 << 8 : 0;
         if (line.find("Notes.zip") != std::string::npos)

@@ -77,7 +77,7 @@ TEST(Objects, EachFieldOfAnObjectIsOneThatIsDescribed) {
 TEST(Objects, ObjectsHaveFacts) {
     CommandLineRun tarnwick;
     for (const char* archive : {"Notes.zip", "SpringBoard.zip"})
-        tarnwick.folder.put(library + archive, "zip");
+        tarnwick.folder.put(library + archive, TemporaryFolder::emptyArchive());
     tarnwick.runner.act = [&](const std::string& line) {
         if (line.find("unzip") != std::string::npos)
             tarnwick.folder.put("/var/tmp" + library + "SpringBoard/data", "");
@@ -92,7 +92,7 @@ TEST(Objects, ObjectsHaveFacts) {
               R"({"item":"photos","outcome":"no backup"})"
               "\n");
     EXPECT_EQ(tarnwick("size notes --json"), AllDone);
-    EXPECT_NE(tarnwick.results().find(R"("item":"notes","bytes":3})"), std::string::npos);
+    EXPECT_NE(tarnwick.results().find(R"("item":"notes","bytes":22})"), std::string::npos);
     EXPECT_EQ(tarnwick("storage --json"), AllDone);
     EXPECT_EQ(tarnwick.results(), "{\"totalBytes\":68719476736,\"freeBytes\":13421772800}\n");
     EXPECT_EQ(tarnwick("reboot --json"), WrongUsage);
@@ -101,10 +101,10 @@ TEST(Objects, ObjectsHaveFacts) {
               "\"question\":\"Do you really want to Reboot your device ?\"}\n");
     EXPECT_EQ(tarnwick("list --json"), AllDone);
     EXPECT_NE(
-        tarnwick.results().find(R"("file":"TarnwickLibrary/Notes.zip","bytes":3,"modified":")"),
+        tarnwick.results().find(R"("file":"TarnwickLibrary/Notes.zip","bytes":22,"modified":")"),
         std::string::npos);
     EXPECT_NE(tarnwick.results().find(R"(Z","item":"notes"})"), std::string::npos);
-    EXPECT_NE(tarnwick.results().find(R"({"files":2,"totalBytes":6,"notSaved":["sources",)"),
+    EXPECT_NE(tarnwick.results().find(R"({"files":2,"totalBytes":44,"notSaved":["sources",)"),
               std::string::npos);
 }
 
