@@ -10,18 +10,19 @@ namespace tarnwick {
 class TasksUnderWay::Part {
 public:
     Part(TasksUnderWay& tasks, int number, Ticket held)
-        : number(number), tasks_(tasks), held_(std::move(held)) {}
+        : number_(number), tasks_(tasks), held_(std::move(held)) {}
     Part(const Part&) = delete;
     Part& operator=(const Part&) = delete;
     ~Part() {
         held_.reset();
         performLaterOnMainThread(&tasks_,
-                                 [&tasks = tasks_, number = number] { tasks.end(number); });
+                                 [&tasks = tasks_, number = number_] { tasks.end(number); });
     }
 
-    const int number;
+    int number() const { return number_; }
 
 private:
+    const int number_;
     TasksUnderWay& tasks_;
     Ticket held_;
 };
@@ -35,7 +36,7 @@ TasksUnderWay::Ticket TasksUnderWay::begin(const std::string& screen, Ticket hel
 void TasksUnderWay::setHudLabel(const Ticket& ticket, const QString& label) {
     const auto* part = static_cast<const Part*>(ticket.get());
     for (Task& task : tasks_)
-        if (part != nullptr && task.number == part->number)
+        if (part != nullptr && task.number == part->number())
             task.hudLabel = label;
 }
 

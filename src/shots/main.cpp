@@ -5,6 +5,7 @@
 #include <QPalette>
 #include <QTemporaryDir>
 #include <QTextStream>
+#include <filesystem>
 
 #include "app/AppDelegate.h"
 #include "app/MainInterface.h"
@@ -76,6 +77,19 @@ public:
         return *navigation.rootViewController();
     }
 
+    // As if everything had been saved.
+    void putArchives() {
+        files_.createDirectory(paths::archiveFolder);
+        std::uintmax_t size = 90'000;
+        for (const BackupItem& item : catalogue_)
+            for (const std::string& path : item.archivePaths()) {
+                files_.writeText(path, "");
+                std::filesystem::resize_file(folder_.path().toStdString() + path, size *= 2);
+            }
+        beginTask();
+        task_.reset();
+    }
+    void beginTask() { task_ = gate_.tasks().begin("backup", nullptr); }
     // Presses a button of the screen and waits for the alert.
     void press(const char* button) {
         QMetaObject::invokeMethod(screen().view()->findChild<QQuickItem*>(button), "clicked");
@@ -93,6 +107,7 @@ private:
     Guard guard_{catalogue_, runner_, files_};
     SharedRun run_{guard_, folder_.filePath("lock").toStdString()};
     TaskGate gate_{run_};
+    TasksUnderWay::Ticket task_;
     PlatformQueues queues_;
     ComposerMailer mailer_{queues_};
     SystemLog log_;
@@ -132,6 +147,11 @@ Staging pressingWithArchive(const char* button) {
 
 void openMenu(StagedScreen& staged) {
     staged.reveal().setFrontViewPosition(FrontPositionSlidRight);
+}
+
+void openMenuDuringTask(StagedScreen& staged) {
+    staged.beginTask();
+    openMenu(staged);
 }
 
 void openMenuByKeys(StagedScreen& staged) {
@@ -188,6 +208,11 @@ std::vector<Shot> shots() {
     shots.push_back(shotOf("mail", "cloud", phone, writeMail));
     shots.push_back(shotOf("keys-screen", "backup", phone, focusing("packagesButton")));
     shots.push_back(shotOf("keys-menu", "backup", phone, openMenuByKeys));
+    for (const char* scene : {"backup", "restore"})
+        shots.push_back(
+            shotOf(QString("%1-saved").arg(scene), scene, phone, &StagedScreen::putArchives));
+    shots.push_back(shotOf("dark-saved", "restore", phone, &StagedScreen::putArchives, dark));
+    shots.push_back(shotOf("menu-busy", "help", phone, openMenuDuringTask));
     shots.push_back(shotOf("hud", "backup", phone, showHud));
     shots.push_back(shotOf("alert-problem", "backup", phone, pressing("accountsButton")));
     shots.push_back(shotOf("alert-missing", "restore", phone, pressing("accountsButton")));
