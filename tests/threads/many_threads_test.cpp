@@ -7,9 +7,9 @@
 
 #include "platform/threads/MainThread.h"
 #include "platform/threads/PlatformQueues.h"
+#include "platform/views/Stage.h"
 #include "platform/windows/AlertPresenter.h"
 #include "platform/windows/AlertView.h"
-#include "platform/views/Stage.h"
 #include "support/SteppedClock.h"
 #include "ui/hud/BarProgressView.h"
 #include "ui/hud/ProgressHUD.h"

@@ -44,8 +44,8 @@ RoundedBox {
     color: Look.panel
 
     Accessible.role: Accessible.AlertMessage
-    Accessible.name: title !== "" ? title : message
-    Accessible.description: title !== "" ? message : ""
+    Accessible.name: panel.title !== "" ? panel.title : panel.message
+    Accessible.description: panel.title !== "" ? panel.message : ""
 
     Flickable {
         id: textArea

@@ -18,7 +18,8 @@ constexpr double largeScale = 1.5;
 constexpr double depth = 1.0;  // above what is added to the view later, too
 
 QRectF boundsOf(const QQuickItem* view) {
-    Q_ASSERT_X(view != nullptr, "ProgressHUD", "View must not be nil.");
+    if (view == nullptr)
+        qFatal("View must not be nil.");
     return {QPointF(0, 0), view->size()};
 }
 
