@@ -76,7 +76,8 @@ std::int64_t ArchiveFile::answer(void* data, std::uint64_t length, zip_source_cm
         case ZIP_SOURCE_BEGIN_WRITE:
             return failWrite(beginWrite());
         case ZIP_SOURCE_WRITE:
-            return failWrite(write(static_cast<std::uint8_t*>(data), length)) < 0
+            return failWrite(write(static_cast<std::uint8_t*>(data),
+                                   static_cast<std::size_t>(length))) < 0
                        ? -1
                        : static_cast<std::int64_t>(length);
         case ZIP_SOURCE_SEEK_WRITE:
@@ -135,7 +136,8 @@ std::int64_t ArchiveFile::status(void* data) {
 }
 
 std::int64_t ArchiveFile::read(void* data, std::uint64_t length) {
-    const ssize_t count = ::pread(old_->number(), data, length, static_cast<off_t>(readPosition_));
+    const ssize_t count = ::pread(old_->number(), data, static_cast<std::size_t>(length),
+                                  static_cast<off_t>(readPosition_));
     if (count < 0)
         return failRead(errno);
     readPosition_ += static_cast<std::uint64_t>(count);

@@ -211,7 +211,8 @@ std::optional<CompressedFiles::Job> CompressedFiles::nextJob() {
     if (!openFile_)
         openFile_ = std::make_shared<SharedFile>(entry);
     const std::uint64_t left = entry.size - nextOffset_;
-    Job job = {slotOf(begun_++), openFile_, nextOffset_, std::min<std::uint64_t>(left, blockLength),
+    Job job = {slotOf(begun_++), openFile_, nextOffset_,
+               static_cast<std::size_t>(std::min<std::uint64_t>(left, blockLength)),
                left <= blockLength};
     nextOffset_ += job.length;
     if (job.isLast) {

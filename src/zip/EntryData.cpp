@@ -40,7 +40,7 @@ std::int64_t EntryData::answer(void* data, std::uint64_t length, zip_source_cmd_
             isComplete_ = entry_.isFolder();
             return 0;
         case ZIP_SOURCE_READ:
-            return read(static_cast<std::uint8_t*>(data), length);
+            return read(static_cast<std::uint8_t*>(data), static_cast<std::size_t>(length));
         case ZIP_SOURCE_ERROR:
             return zip_error_to_data(&error_, data, length);
         default:

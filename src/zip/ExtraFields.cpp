@@ -17,7 +17,8 @@ void append(std::vector<std::uint8_t>& field, std::uint32_t number) {
         field.push_back(static_cast<std::uint8_t>(number >> shift));
 }
 
-bool isInRange(std::time_t time) {
+// Where a time has 32 bits, all of them are.
+bool isInRange(std::int64_t time) {
     return time >= std::numeric_limits<std::int32_t>::min() &&
            time <= std::numeric_limits<std::uint32_t>::max();
 }

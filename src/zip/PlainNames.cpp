@@ -33,6 +33,10 @@ std::uint64_t numberAt(std::string_view bytes, std::size_t place, std::size_t le
     return number;
 }
 
+std::size_t lengthAt(std::string_view bytes, std::size_t place) {
+    return static_cast<std::size_t>(numberAt(bytes, place, 2));
+}
+
 class Archive {
 public:
     explicit Archive(int file) : file_(file) {}
@@ -64,7 +68,7 @@ std::uint64_t localHeaderOf(std::string_view header, std::string_view extraField
     if (offset != isElsewhere)
         return offset;
     while (numberAt(extraFields, 0, 2) != largeFileId)
-        extraFields.remove_prefix(4 + numberAt(extraFields, 2, 2));
+        extraFields.remove_prefix(4 + lengthAt(extraFields, 2));
     std::size_t place = 4;
     for (const std::size_t size : {sizesInHeader, sizesInHeader + 4})
         place += numberAt(header, size, 4) == isElsewhere ? 8 : 0;
@@ -93,8 +97,8 @@ bool declareNamesPlain(int file, std::uint64_t length, std::uint64_t commentLeng
         const auto header = archive.read(*place, headerLength);
         if (!header || !header->starts_with("PK\1\2"))
             return header.has_value();
-        const std::size_t nameLength = numberAt(*header, lengthsInHeader, 2);
-        const std::size_t extraLength = numberAt(*header, lengthsInHeader + 2, 2);
+        const std::size_t nameLength = lengthAt(*header, lengthsInHeader);
+        const std::size_t extraLength = lengthAt(*header, lengthsInHeader + 2);
         const auto texts = archive.read(*place + headerLength, nameLength + extraLength);
         if (!texts)
             return false;
