@@ -40,7 +40,7 @@ protected:
         zip_stat_t status = {};
         if (!archive || zip_stat(archive.get(), name.c_str(), 0, &status) != 0)
             return "(none)";
-        std::string text(status.size + 1, '\0');
+        std::string text(static_cast<std::size_t>(status.size) + 1, '\0');
         zip_file_t* const file = zip_fopen(archive.get(), name.c_str(), 0);
         const zip_int64_t count = zip_fread(file, text.data(), text.size());
         const bool isGood = count >= 0 && zip_fread(file, text.data(), 1) == 0;
