@@ -1,10 +1,8 @@
 #include "mail/CloudViewController.h"
 
-#include <QDateTime>
-#include <QLocale>
-
 #include "core/SafeguardPaths.h"
 #include "mail/MailMessage.h"
+#include "screens/SavedTexts.h"
 
 namespace tarnwick {
 
@@ -19,8 +17,7 @@ QString packageListText(const FileReader& files) {
     const auto time = files.modificationTime(paths::savedPackages);
     if (!time)
         return "No list of packages is saved yet.";
-    const QDate date = QDateTime::fromSecsSinceEpoch(*time).date();
-    return "A list of packages was saved on " + QLocale::c().toString(date, "d MMM yyyy") + ".";
+    return "A list of packages was saved on " + dateText(*time) + ".";
 }
 
 }  // namespace

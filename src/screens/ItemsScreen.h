@@ -33,7 +33,7 @@ public:
 protected:
     void viewDidLoad() override {
         OperationsScreen<ScreenOperations>::viewDidLoad();
-        QObject::connect(&this->services().gate.tasks(), &TasksUnderWay::changed, this,
+        QObject::connect(&this->services().gate.tasks(), &TasksUnderWay::ended, this,
                          [this] { readSavedTexts(); });
         readSavedTexts();
     }

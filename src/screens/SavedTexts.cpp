@@ -56,10 +56,6 @@ QString sizeText(std::uint64_t bytes) {
         .replace("kB", "KB");
 }
 
-QString dateText(std::time_t time) {
-    return QLocale::c().toString(QDateTime::fromSecsSinceEpoch(time).date(), "d MMM yyyy");
-}
-
 QString textOf(const std::optional<Saved>& saved) {
     return saved ? dateText(saved->time) + ", " + sizeText(saved->bytes) : "not saved yet";
 }
@@ -77,6 +73,10 @@ QString textOfAll(const std::vector<std::optional<Saved>>& items) {
 }
 
 }  // namespace
+
+QString dateText(std::time_t time) {
+    return QLocale::c().toString(QDateTime::fromSecsSinceEpoch(time).date(), "d MMM yyyy");
+}
 
 std::map<QString, QString> savedTexts(const ItemCatalogue& catalogue, const FileReader& files) {
     std::map<QString, QString> texts = {

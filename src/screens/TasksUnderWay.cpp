@@ -55,6 +55,7 @@ QString TasksUnderWay::hudLabelOf(const QString& screen) const {
 void TasksUnderWay::end(int number) {
     std::erase_if(tasks_, [number](const Task& task) { return task.number == number; });
     emit changed();
+    emit ended();
 }
 
 }  // namespace tarnwick

@@ -27,8 +27,9 @@ public:
     QString hudLabelOf(const QString& screen) const;
 
 signals:
-    // Comes in a later turn of the loop.
+    // Both come in a later turn of the loop.
     void changed();
+    void ended();
 
 private:
     class Part;
